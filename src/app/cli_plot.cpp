@@ -1,0 +1,78 @@
+// quilmar plot: the map canvas as the window shows it after opening a file,
+// written as a PNG or SVG picture (15 twips a pixel).
+
+#include <QGuiApplication>
+#include <QString>
+
+#include <memory>
+
+#include "canvas_image.h"
+#include "cli_commands.h"
+#include "cli_options.h"
+#include "recording_prompter.h"
+
+namespace quilmar {
+
+namespace {
+
+bool endsWith(const std::string &s, const std::string &suffix)
+{
+    if (s.size() < suffix.size())
+        return false;
+    for (size_t i = 0; i < suffix.size(); ++i)
+        if (std::tolower(static_cast<unsigned char>(s[s.size() - suffix.size() + i])) != suffix[i])
+            return false;
+    return true;
+}
+
+} // namespace
+
+int runPlotCommand(const Args &args, std::string &out, std::string &err)
+{
+    (void)out;
+    MapCommandOptions options;
+    if (std::string problem = parseMapOptions(args, {"--scale", "--units", "--canvas", "-o"}, options);
+        !problem.empty()) {
+        err += "quilmar plot: " + problem + "\n" + usageText();
+        return 1;
+    }
+    const bool svg = endsWith(options.output, ".svg");
+    if (options.output.empty() || (!svg && !endsWith(options.output, ".png"))) {
+        err += "quilmar plot: give the picture with -o OUT.png or -o OUT.svg\n";
+        return 1;
+    }
+    if (options.canvasWidth < 1 || options.canvasHeight < 1) {
+        err += "quilmar plot: the canvas must be at least 1x1 twips\n";
+        return 1;
+    }
+    std::unique_ptr<QGuiApplication> app;
+    if (!QGuiApplication::instance()) {
+        static int argc = 1;
+        static char name[] = "quilmar";
+        static char *argv[] = {name, nullptr};
+        app = std::make_unique<QGuiApplication>(argc, argv);
+    }
+
+    RecordingPrompter prompter;
+    Engine engine(prompter);
+    engine.setCanvasSize(options.canvasWidth, options.canvasHeight);
+    if (!engine.openMapFile(options.file, options.overrides)) {
+        for (const std::string &m : prompter.take())
+            err += m + "\n";
+        err += "quilmar plot: cannot read the map file " + options.file + "\n";
+        return 1;
+    }
+    for (const std::string &m : prompter.take())
+        err += "! " + m + "\n";
+    const QString path = QString::fromStdString(options.output);
+    const int w = int(options.canvasWidth), h = int(options.canvasHeight);
+    const bool written = svg ? writeFigureSvg(path, engine.figure(), engine.scaleLeft(), engine.scaleTop(), w, h, kCanvasGrey)
+                             : writeFigurePng(path, engine.figure(), engine.scaleLeft(), engine.scaleTop(), w, h, kCanvasGrey);
+    if (!written) {
+        err += "quilmar plot: cannot write " + options.output + "\n";
+        return 1;
+    }
+    return 0;
+}
+
+} // namespace quilmar

@@ -1,0 +1,152 @@
+// quilmar report: open a map file as the window does, then run Calculate Gap,
+// Calculate Perimeter, Calculate Acres and Calculate Hectares in that order.
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <charconv>
+#include <cmath>
+
+#include "cli_commands.h"
+#include "cli_options.h"
+#include "recording_prompter.h"
+#include "vb_math.h"
+
+namespace quilmar {
+
+namespace {
+
+QString qs(const std::string &s) { return QString::fromUtf8(s.data(), qsizetype(s.size())); }
+
+// A single carried into JSON by its shortest decimal text, so 28.6479f is
+// written 28.6479 and not with the digits of its double widening.
+QJsonValue singleJson(float v)
+{
+    if (!std::isfinite(v))
+        return QJsonValue();
+    char buf[32];
+    auto [end, ec] = std::to_chars(buf, buf + sizeof buf, v);
+    double d = 0.0;
+    std::from_chars(buf, end, d);
+    return d;
+}
+
+QJsonValue cellJson(const Cell &cell)
+{
+    try {
+        if (cell.isNumber())
+            return cell.number();
+        const double v = cell.value();
+        return std::isfinite(v) ? QJsonValue(v) : QJsonValue();
+    } catch (const VbError &) {
+        return QJsonValue();
+    }
+}
+
+QJsonValue groundPoint(PointF p, float scaleFactor)
+{
+    if (scaleFactor == 0.0f)
+        return QJsonArray{QJsonValue(), QJsonValue()};
+    return QJsonArray{singleJson(float(p.x / double(scaleFactor))), singleJson(float(p.y / double(scaleFactor)))};
+}
+
+struct CommandRecord {
+    const char *name;
+    std::string acresbox;
+    std::vector<std::string> messages;
+};
+
+QJsonArray legsJson(const Engine &engine)
+{
+    QJsonArray legs;
+    const LegTable &table = engine.legs();
+    for (size_t row = 0; row < table.size(); ++row) {
+        const Leg &leg = table[row];
+        QJsonObject o;
+        o["row"] = int(row);
+        o["course"] = leg.course;
+        o["direction"] = leg.direction ? singleJson(*leg.direction) : QJsonValue();
+        o["distance"] = cellJson(leg.distance);
+        o["chord"] = cellJson(leg.chord);
+        o["radius"] = cellJson(leg.radius);
+        o["lr"] = qs(leg.lr);
+        o["tag"] = qs(leg.tag);
+        legs.append(o);
+    }
+    return legs;
+}
+
+} // namespace
+
+int runReportCommand(const Args &args, std::string &out, std::string &err)
+{
+    MapCommandOptions options;
+    if (std::string problem = parseMapOptions(args, {"--json", "--scale", "--units", "--canvas"}, options);
+        !problem.empty()) {
+        err += "quilmar report: " + problem + "\n" + usageText();
+        return 1;
+    }
+    RecordingPrompter prompter;
+    Engine engine(prompter);
+    engine.setCanvasSize(options.canvasWidth, options.canvasHeight);
+
+    std::vector<CommandRecord> records;
+    const bool opened = engine.openMapFile(options.file, options.overrides);
+    records.push_back({"open", engine.acresbox(), prompter.take()});
+    if (!opened) {
+        for (const std::string &m : records.back().messages)
+            err += m + "\n";
+        if (records.back().messages.empty())
+            err += "Cannot read the map file " + options.file + ".\n";
+        return 1;
+    }
+    const float scaleFactor = engine.scaleFactor();
+    const std::string autoscale = engine.autoscalebox();
+    const PointF pob = engine.state().pob;
+    const PointF end = engine.state().pen;
+    const QJsonArray legs = legsJson(engine);
+    const int highest = engine.table().highest;
+
+    engine.mnuGap_Click();
+    records.push_back({"gap", engine.acresbox(), prompter.take()});
+    engine.mnuPeri_Click();
+    records.push_back({"perimeter", engine.acresbox(), prompter.take()});
+    engine.mnuAcres_Click();
+    records.push_back({"acres", engine.acresbox(), prompter.take()});
+    engine.mnuHectares_Click();
+    records.push_back({"hectares", engine.acresbox(), prompter.take()});
+
+    if (!options.json) {
+        for (const CommandRecord &r : records) {
+            for (const std::string &m : r.messages)
+                out += "! " + m + "\n";
+            out += r.acresbox + "\n";
+        }
+        return 0;
+    }
+    QJsonObject commands;
+    for (const CommandRecord &r : records) {
+        QJsonArray messages;
+        for (const std::string &m : r.messages)
+            messages.append(qs(m));
+        commands[r.name] = QJsonObject{{"acresbox", qs(r.acresbox)}, {"messages", messages}};
+    }
+    QJsonObject root;
+    root["file"] = qs(options.file);
+    root["units"] = unitsName(engine.units());
+    root["scale"] = qs(engine.scaleText());
+    root["canvas"] = QJsonArray{double(options.canvasWidth), double(options.canvasHeight)};
+    root["highest"] = highest;
+    root["scale_factor"] = singleJson(scaleFactor);
+    root["autoscale"] = qs(autoscale);
+    root["description"] = qs(engine.description());
+    root["legs"] = legs;
+    root["pob"] = groundPoint(pob, scaleFactor);
+    root["end"] = groundPoint(end, scaleFactor);
+    root["commands"] = commands;
+    out += QJsonDocument(root).toJson(QJsonDocument::Indented).toStdString();
+    return 0;
+}
+
+} // namespace quilmar

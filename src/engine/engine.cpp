@@ -1,0 +1,107 @@
+#include "engine.h"
+
+#include <cmath>
+
+#include "course_conversion.h"
+#include "number_format.h"
+#include "vb_math.h"
+#include "walk.h"
+
+namespace quilmar {
+
+Engine::Engine(Prompter &prompter, const StartupSettings &settings) : m_prompter(prompter)
+{
+    m_scale.scaleEnglish = settings.scaleEnglish;
+    m_scale.scaleMetric = settings.scaleMetric;
+    m_printOptions = settings.printOptions;
+    // A missing or non-English regional setting starts in metric mode, on purpose.
+    metrix_Click(settings.englishMeasure ? 0 : 1);
+}
+
+void Engine::setCanvasSize(float widthTwips, float heightTwips)
+{
+    m_canvasWidth = widthTwips;
+    m_canvasHeight = heightTwips;
+}
+
+void Engine::metrix_Click(int index)
+{
+    m_scale.units = static_cast<Units>(index);
+    m_metricFactor = index == 1 ? 2.5f : 1.0f;
+}
+
+void Engine::mindraw()
+{
+    if (m_state.skipOnce) {
+        m_state.skipOnce = false;
+        return;
+    }
+    m_mapComputed = true;
+    try {
+        m_legs.clear();
+        m_state.closingFlag = false;
+        m_state.closingStart = {};
+        m_legs = convertCourses(m_table, [this](const std::string &text) { showError(text); });
+
+        FitResult fit = rescaling(m_legs, m_scale, m_canvasWidth, m_canvasHeight, m_printing, m_scaleFactor,
+                                  m_state, m_shares);
+        m_scaleFactor = fit.scaleFactor;
+        if (fit.failed) {
+            showError("Error in rescaling");
+        } else {
+            m_fit = fit;
+        }
+        m_fit.scaleFactor = m_scaleFactor;
+
+        m_state.origin = {};
+        m_acresbox.clear();
+        m_figure.clear();
+        m_state.canvas = {};
+        m_state.pen = {};
+
+        WalkOptions options;
+        options.scaleFactor = m_scaleFactor;
+        options.printing = m_printing;
+        options.referencePoints = m_printOptions.referencePoints == 1;
+        options.balanceGap = m_printOptions.balanceGap == 1;
+        options.shares = m_shares;
+        std::string message = walkCourses(m_legs, options, m_state, m_figure);
+        if (message.empty() && !m_printing) {
+            try {
+                if (m_metricFactor == 0.0f)
+                    m_metricFactor = 1.0f;
+                m_autoscalebox = autoScaleCaption(m_scale, m_scaleFactor);
+            } catch (const VbError &) {
+                message = "Error in drawing map (drawmap)";
+            }
+        }
+        if (!message.empty()) {
+            showError(message);
+            m_state.errorFlag = true;
+        } else {
+            markEnd();
+        }
+        buildAreaTexts();
+    } catch (const VbError &e) {
+        showError(std::to_string(e.number()) + ".  Error drawing map (mindraw)");
+        m_state.errorFlag = true;
+    }
+}
+
+void Engine::markEnd()
+{
+    const PointF at{m_state.pen.x - 36.0f, m_state.pen.y - 112.0f};
+    m_figure.items.push_back({FigText{at, 0, "x"}, Palette::Red, Target::Screen});
+    m_state.canvas = m_state.pen;
+}
+
+void Engine::buildAreaTexts()
+{
+    const double squareUnits = fdiv(fdiv(std::fabs(double(m_state.areaSum)), m_scaleFactor), m_scaleFactor);
+    m_imperialText = formatNumber(squareUnits / 43560.0, "Standard") + " acres [" +
+                     formatNumber(squareUnits, "standard") + " sq ft]";
+    m_metricText = formatNumber(squareUnits, "###") + " Square Meters [" +
+                   formatNumber(squareUnits / 10000.0, "Standard") + " Ha]";
+}
+
+} // namespace quilmar

@@ -1,0 +1,64 @@
+// Opening and saving map files, and loading the demo samples.
+
+#include "demo_samples.h"
+#include "engine.h"
+#include "map_file.h"
+
+namespace quilmar {
+
+bool Engine::openMapFile(const std::string &path, const OpenOverrides &overrides)
+{
+    m_description.clear();
+    m_acresbox.clear();
+    m_autoscalebox.clear();
+    m_figure.clear();
+
+    MapReadResult read = readMapFile(path);
+    if (read.status == MapReadStatus::NotFound) {
+        showError(read.message);
+        return false;
+    }
+    if (read.status != MapReadStatus::Ok)
+        return false;
+
+    storeRows(read.rows, m_table);
+    if (read.reachedDescription) {
+        SpecSplit spec = splitSpec(read.description);
+        int unit = 0;
+        // A unit character other than 0, 1 or 2 (a damaged file) selects Feet,
+        // as a file without its "*spec=" line does.
+        if (spec.found && spec.unit && *spec.unit >= '0' && *spec.unit <= '2')
+            unit = *spec.unit - '0';
+        metrix_Click(overrides.units ? int(*overrides.units) : unit);
+        m_scale.scaleText = overrides.scaleText ? *overrides.scaleText : spec.scale;
+        m_description = spec.description;
+    } else {
+        if (overrides.units)
+            metrix_Click(int(*overrides.units));
+        if (overrides.scaleText)
+            m_scale.scaleText = *overrides.scaleText;
+    }
+    m_table.gethighest();
+    mindraw();
+    return true;
+}
+
+void Engine::loadDemoSample(int n)
+{
+    const DemoSample &sample = demoSample(n);
+    m_table.erase();
+    m_acresbox.clear();
+    m_autoscalebox.clear();
+    m_figure.clear();
+    m_description = sample.note;
+    loadDemoRows(sample, m_table);
+    m_table.gethighest();
+    mindraw();
+}
+
+std::string Engine::mapFileBytes() const
+{
+    return quilmar::mapFileBytes(m_table, m_description, int(m_scale.units), m_scale.scaleText);
+}
+
+} // namespace quilmar

@@ -1,0 +1,96 @@
+#include "curves.h"
+
+#include <cmath>
+
+#include "area.h"
+#include "vb_math.h"
+
+namespace quilmar {
+
+float chordFromArc(float radius, float arc)
+{
+    const float halfAngle = sng(fdiv(arc / 2.0, 2.0 * radius * kPi) * 360.0);
+    const float x = sng(std::cos(halfAngle * kPi / 180.0) * radius);
+    return sng(2.0 * fsqrt(double(radius) * radius - double(x) * x));
+}
+
+double arcFromChord(float radius, float chord)
+{
+    if (2.0 * radius == chord)
+        radius = sng(radius + 0.01);
+    const double half = chord / 2.0;
+    const double h = fsqrt(double(radius) * radius - half * half);
+    const double a = std::atan(fdiv(half, h)) * 180.0 / kPi;
+    return dbl((2.0 * radius * kPi / 360.0) * a * 2.0);
+}
+
+double perimeterArc(float radius, float chord)
+{
+    const double half = chord / 2.0;
+    double root = fsqrt(double(radius) * radius - half * half);
+    if (root == 0.0)
+        root = 0.000001;
+    const double halfAngle = std::atan(half / root) * 180.0 / kPi;
+    return dbl((2.0 * radius * kPi / 360.0) * halfAngle * 2.0);
+}
+
+namespace {
+
+// Angle of a point seen from the centre, counter-clockwise as seen on the map,
+// brought into 0 to a full turn by one addition.
+double mapAngle(PointF centre, PointF p)
+{
+    double a = std::atan2(-(double(p.y) - centre.y), double(p.x) - centre.x);
+    if (a < 0.0)
+        a += kFullTurn;
+    if (a >= kFullTurn)
+        a -= kFullTurn;
+    return a;
+}
+
+} // namespace
+
+std::string traceCurve(bool right, PointF &pen, double direction, float radius, float chord, const CurveSink &sink)
+{
+    try {
+        // Deliberate: a radius of exactly half the chord is nudged; in single
+        // precision this rarely changes the value, and the roots below rely on it.
+        radius = sng(radius + 0.00000001);
+        if (chord == 0.0f)
+            return {};
+        const PointF start = pen;
+        const PointF end{sng(start.x + chord * std::cos(direction)), sng(start.y + chord * std::sin(direction))};
+        const double h = fsqrt(double(radius) * radius - double(chord) * chord / 4.0);
+        const double beta = std::atan(fdiv(h, chord / 2.0));
+        const double toCentre = right ? direction + beta : direction - beta;
+        const PointF centre{sng(start.x + radius * std::cos(toCentre)), sng(start.y + radius * std::sin(toCentre))};
+        const double startAngle = mapAngle(centre, start);
+        const double endAngle = mapAngle(centre, end);
+
+        double segment = 0.0;
+        if (sink.areaMode) {
+            double f = (endAngle - startAngle) / kFullTurn;
+            if (std::fabs(f) > 0.5)
+                f = 1.0 - std::fabs(f);
+            const double sector = std::fabs(f) * kPi * double(radius) * radius;
+            segment = sector - h * chord / 2.0;
+        }
+        const double arc = sink.perimeterMode ? perimeterArc(radius, chord) : 0.0;
+
+        if (sink.figure) {
+            // A left-hand curve turns counter-clockwise on the map from start to end.
+            FigArc shape{centre, std::fabs(radius), right ? endAngle : startAngle, right ? startAngle : endAngle};
+            sink.figure->items.push_back({shape, Palette::Blue, sink.target});
+        }
+        if (sink.areaMode && sink.areaSum)
+            *sink.areaSum = sng(*sink.areaSum + (right ? segment : -segment));
+        if (sink.perimeterMode && sink.perimeterSum)
+            *sink.perimeterSum = dbl(*sink.perimeterSum + arc);
+        pen = end;
+        return {};
+    } catch (const VbError &) {
+        return "Error in curve.";
+    }
+}
+
+} // namespace quilmar

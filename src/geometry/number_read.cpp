@@ -1,0 +1,88 @@
+#include "number_read.h"
+
+#include <charconv>
+#include <string>
+
+#include "vb_math.h"
+
+namespace quilmar {
+
+namespace {
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+// Length of the numeric prefix starting at text[0], in the form from_chars reads
+// once a "D" exponent is spelled "E".
+size_t prefixLength(std::string_view t)
+{
+    size_t i = 0;
+    if (i < t.size() && (t[i] == '+' || t[i] == '-'))
+        ++i;
+    size_t digits = 0;
+    while (i < t.size() && isDigit(t[i])) { ++i; ++digits; }
+    if (i < t.size() && t[i] == '.') {
+        ++i;
+        while (i < t.size() && isDigit(t[i])) { ++i; ++digits; }
+    }
+    if (digits == 0)
+        return 0;
+    if (i < t.size() && (t[i] == 'e' || t[i] == 'E' || t[i] == 'd' || t[i] == 'D')) {
+        size_t j = i + 1;
+        if (j < t.size() && (t[j] == '+' || t[j] == '-'))
+            ++j;
+        if (j < t.size() && isDigit(t[j])) {
+            while (j < t.size() && isDigit(t[j]))
+                ++j;
+            i = j;
+        }
+    }
+    return i;
+}
+
+} // namespace
+
+std::string_view trimBlanks(std::string_view text)
+{
+    size_t b = text.find_first_not_of(' ');
+    if (b == std::string_view::npos)
+        return {};
+    size_t e = text.find_last_not_of(' ');
+    return text.substr(b, e - b + 1);
+}
+
+double leadingNumber(std::string_view text)
+{
+    size_t b = text.find_first_not_of(" \t");
+    if (b == std::string_view::npos)
+        return 0.0;
+    std::string_view t = text.substr(b);
+    size_t n = prefixLength(t);
+    if (n == 0)
+        return 0.0;
+    std::string s(t.substr(0, n));
+    size_t start = 0;
+    if (s[0] == '+')
+        start = 1;
+    for (char &c : s)
+        if (c == 'd' || c == 'D')
+            c = 'e';
+    double v = 0.0;
+    auto [ptr, ec] = std::from_chars(s.data() + start, s.data() + s.size(), v);
+    if (ec == std::errc::result_out_of_range) {
+        // Underflow reads as 0; only a too-large magnitude is a fault.
+        size_t e = s.find('e');
+        if (e != std::string::npos && s.find('-', e) == e + 1)
+            return 0.0;
+        throw VbError::overflow();
+    }
+    (void)ptr;
+    return v;
+}
+
+bool isWholeNumber(std::string_view text)
+{
+    std::string_view t = trimBlanks(text);
+    return !t.empty() && prefixLength(t) == t.size();
+}
+
+} // namespace quilmar

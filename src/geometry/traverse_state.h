@@ -1,0 +1,39 @@
+#pragma once
+// The computation state that one traverse leaves behind for the next command:
+// the pen, the point of beginning, the origin, the closing data and the sums.
+// Points are singles in drawing units (twips), x east, y south.
+
+#include <cstdint>
+#include <string>
+
+#include "point.h"
+
+namespace quilmar {
+
+struct TraverseState {
+    PointF pen;          ///< the traverse point the walk has reached
+    PointF canvas;       ///< the canvas's own current drawing position
+    PointF pob;          ///< point of beginning ("B")
+    PointF origin;       ///< point of origin ("O"), where a new lot ("N") starts
+    PointF closingStart; ///< where the closing leg began; (0, 0) = none
+    PointF areaPoint;    ///< shoelace accumulator's previous point
+    float areaSum = 0.0f;
+    double perimeterSum = 0.0;
+    float closingRadius = 0.0f;
+    std::string closingLR;
+    bool areaMode = false;
+    bool perimeterMode = false;
+    bool closingFlag = false;
+    bool errorFlag = false;
+    bool skipOnce = false;
+};
+
+/// The printout's balanced-gap shares (drawing units per straight leg) and the
+/// number of straight legs they are spread over.
+struct GapShares {
+    float x = 0.0f;
+    float y = 0.0f;
+    int16_t legCount = 0;
+};
+
+} // namespace quilmar

@@ -1,0 +1,36 @@
+#pragma once
+// The map canvas as a picture: the window's map, the double-size bitmap copied
+// to the clipboard, and PNG or SVG files written from the command line all come
+// from here. The picture shows the items of a figure meant for the screen.
+
+#include <QImage>
+#include <QString>
+
+#include "figure.h"
+#include "palette.h"
+
+namespace quilmar {
+
+/// Paints the screen items of @p figure on a fresh image filled with @p background.
+/// @param scaleLeft, scaleTop       drawing point (twips) at the image's top-left
+/// @param widthTwips, heightTwips   canvas size in twips; the image has
+///                                  ceil(size / twipsPerPixel) pixels each way
+/// @param twipsPerPixel             15 for a 96-dpi screen
+/// @returns an opaque RGB32 image, or a null image when a size or twipsPerPixel
+///          is not above 0 or the image cannot be allocated
+QImage renderFigureImage(const Figure &figure, float scaleLeft, float scaleTop, int widthTwips,
+                         int heightTwips, Rgb background, int twipsPerPixel = 15);
+
+/// renderFigureImage() saved as a PNG file at @p path (replaced if it exists).
+/// @returns false on bad sizes or when the file cannot be written
+bool writeFigurePng(const QString &path, const Figure &figure, float scaleLeft, float scaleTop,
+                    int widthTwips, int heightTwips, Rgb background, int twipsPerPixel = 15);
+
+/// The same picture as an SVG file: width and height in pixels as for the PNG,
+/// a viewBox of the same size, the background as a filled rectangle and the
+/// figure as vector lines, arcs and text.
+/// @returns false on bad sizes or when the file cannot be written
+bool writeFigureSvg(const QString &path, const Figure &figure, float scaleLeft, float scaleTop,
+                    int widthTwips, int heightTwips, Rgb background, int twipsPerPixel = 15);
+
+} // namespace quilmar

@@ -1,0 +1,121 @@
+#include "rescaling.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cmath>
+
+#include "number_format.h"
+#include "number_read.h"
+#include "vb_math.h"
+
+namespace quilmar {
+
+float levelFactor(std::string_view scaleText)
+{
+    std::string t(trimBlanks(scaleText));
+    for (char &ch : t)
+        ch = char(std::toupper(static_cast<unsigned char>(ch)));
+    if (t == "MINIMUM")
+        return 0.36f;
+    if (t == "SMALL")
+        return 0.48f;
+    if (t == "MAXIMUM")
+        return 0.96f;
+    return 0.72f;
+}
+
+FitResult rescaling(const LegTable &legs, const ScaleChoice &choice, float width, float height, bool printing,
+                    float previousScaleFactor, TraverseState &state, GapShares &shares)
+{
+    FitResult fit;
+    fit.scaleFactor = previousScaleFactor;
+    PointF run;
+    float minX = 0, minY = 0, maxX = 0, maxY = 0, extX = 1, extY = 1;
+    int straightLegs = 0;
+    try {
+        for (const Leg &leg : legs) {
+            const double a = double(leg.directionValue()) * kPi / 180.0;
+            const double distance = leg.distance.value();
+            const double chord = leg.chord.value();
+            // A curve of radius "0" is still a curve: the test adds 0.01.
+            const double radius = leg.radius.isEmpty() ? 0.0 : leg.radius.value() + 0.01;
+            const std::string tag(trimBlanks(leg.tag));
+            if (tag == "N")
+                run = state.origin;
+            if (radius == 0.0) {
+                const double ix = std::cos(a) * distance, iy = std::sin(a) * distance;
+                run = {sng(run.x + ix), sng(run.y + iy)};
+                if (ix != 0.0 || iy != 0.0)
+                    ++straightLegs;
+            } else {
+                run = {sng(run.x - std::cos(kPi - a) * chord), sng(run.y + std::sin(kPi - a) * chord)};
+            }
+            minX = std::min(minX, run.x);
+            minY = std::min(minY, run.y);
+            maxX = std::max(maxX, run.x);
+            maxY = std::max(maxY, run.y);
+            extX = sng(double(maxX) - minX);
+            extY = sng(double(maxY) - minY);
+            if (extX == 0.0f)
+                extX = 1.0f;
+            if (extY == 0.0f)
+                extY = 1.0f;
+            const float fx = sng(width / extX), fy = sng(height / extY);
+            fit.scaleFactor = fx < fy ? fx : fy;
+            if (tag == "B") {
+                state.pob = run;
+            } else if (tag == "O") {
+                state.origin = run;
+                state.pob = run;
+            } else if (tag == "C") {
+                run = state.pob;
+            }
+        }
+        fit.scaleFactor = sng(double(fit.scaleFactor) * levelFactor(choice.scaleText));
+        const float sf = fit.scaleFactor;
+        if (printing) {
+            const double n = leadingNumber(choice.scaleText);
+            if (n != 0.0) {
+                if (choice.units == Units::Feet)
+                    fit.scaleFactor = sng(fdiv(choice.scaleEnglish, n));
+                else if (choice.units == Units::Meters)
+                    fit.scaleFactor = sng(fdiv(choice.scaleMetric, n));
+                else
+                    fit.scaleFactor = sng(2.0 * sf);
+            } else {
+                fit.scaleFactor = sng(2.0 * sf);
+            }
+            const double s = fit.scaleFactor;
+            const double offX = (2.0 * width - s * extX) / 2.0, offY = (2.0 * height - s * extY) / 2.0;
+            fit.scaleLeft = sng(s * minX - offX);
+            fit.scaleTop = sng(s * minY - offY);
+        } else {
+            const double offX = (width - double(sf) * extX) / 2.0, offY = (height - double(sf) * extY) / 2.0;
+            fit.scaleLeft = sng(std::floor(double(sf) * minX - offX));
+            fit.scaleTop = sng(std::floor(double(sf) * minY - offY));
+        }
+    } catch (const VbError &) {
+        fit.failed = true;
+        return fit;
+    }
+    try {
+        // The closure gap in drawing units, shared equally by the straight legs.
+        const double n = straightLegs;
+        shares.x = sng(fdiv((double(run.x) - state.origin.x) * fit.scaleFactor, n));
+        shares.y = sng(fdiv((double(run.y) - state.origin.y) * fit.scaleFactor, n));
+        shares.legCount = int16_t(straightLegs);
+    } catch (const VbError &) {
+    }
+    return fit;
+}
+
+std::string autoScaleCaption(const ScaleChoice &choice, float scaleFactor)
+{
+    const double base = choice.units == Units::Feet ? choice.scaleEnglish : choice.scaleMetric;
+    const double n = fdiv(base, 2.0 * scaleFactor);
+    if (n > 1.0)
+        return "AutoScale = " + formatNumber(n, "##0");
+    return {};
+}
+
+} // namespace quilmar

@@ -1,0 +1,287 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <random>
+
+#include "map_file.h"
+
+namespace quilmar {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::string_literals;
+
+const std::string kBlankLine = std::string(9, '\t') + "\r\n";
+
+std::string repeat(const std::string &s, int n)
+{
+    std::string out;
+    for (int i = 0; i < n; ++i)
+        out += s;
+    return out;
+}
+
+class MapFileTest : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        m_dir = fs::temp_directory_path()
+            / ("quilmar_io_test_" + std::to_string(std::random_device{}()));
+        fs::create_directories(m_dir);
+    }
+    void TearDown() override { fs::remove_all(m_dir); }
+
+    std::string put(const std::string &bytes, const std::string &name = "t.map")
+    {
+        const std::string path = (m_dir / name).string();
+        std::ofstream(path, std::ios::binary) << bytes;
+        return path;
+    }
+    static std::string contents(const std::string &path)
+    {
+        std::ifstream in(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(in), {}};
+    }
+
+    fs::path m_dir;
+};
+
+TEST(MapFileBytes, EmptyTableIsSixteenBlankLinesAndTail)
+{
+    // highest 10 -> rows 0..15.
+    EXPECT_EQ(mapFileBytes(CourseTable{}, "", 0, "Standard"),
+              repeat(kBlankLine, 16) + "~\r\n*spec=0Standard\r\n");
+}
+
+TEST(MapFileBytes, Tail)
+{
+    struct Case { std::string description; int unit; std::string scale; std::string tail; };
+    const Case cases[] = {
+        {"Lot 7", 0, "Standard", "~Lot 7\r\n*spec=0Standard\r\n"},
+        {"a\r\nb", 1, "1200", "~a\r\nb\r\n*spec=11200\r\n"},
+        {"a\nb\rc", 2, "", "~a\r\nb\r\nc\r\n*spec=2\r\n"},   // lone LF, lone CR -> CR LF
+        {"x", 7, "Standard", "~x\r\n*spec=2Standard\r\n"},   // neither Feet nor Meters
+        {"\xC3\xA9 45\xC2\xB0 \xC5\x82", 0, "1\xE2\x82\xAC", "~\xE9 45\xB0 ?\r\n*spec=01\x80\r\n"},
+    };
+    for (const auto &c : cases) {
+        const std::string bytes = mapFileBytes(CourseTable{}, c.description, c.unit, c.scale);
+        EXPECT_EQ(bytes, repeat(kBlankLine, 16) + c.tail) << c.description;
+    }
+}
+
+TEST(MapFileBytes, CellsOfOneLine)
+{
+    CourseTable table;
+    const char *texts[] = {"N", "12", "30", "0", "E", "", "", "", "", "B"};
+    for (int col = 1; col <= 10; ++col)
+        table.at(0, col) = texts[col - 1];
+    table.at(0, ColDistance) = 328.1;           // a number cell, as global conversion leaves it
+    table.at(0, ColRadius) = "a\tb\xC3\xA9";    // TAB would split the line: written as a space
+    const std::string bytes = mapFileBytes(table, "", 0, "Standard");
+    EXPECT_EQ(bytes.substr(0, bytes.find("\r\n")), "N\t12\t30\t0\tE\t328.1\t\ta b\xE9\t\tB");
+}
+
+TEST(MapFileBytes, CourseLinesEndAtHighestPlusFiveClippedAtRow201)
+{
+    const std::pair<int, int> highestAndLines[] = {{10, 16}, {150, 156}, {196, 202}, {197, 202},
+                                                   {202, 202}, {-5, 1}, {-6, 0}};
+    for (const auto &[highest, lines] : highestAndLines) {
+        CourseTable table;
+        table.highest = static_cast<int16_t>(highest);
+        const std::string bytes = mapFileBytes(table, "", 0, "Standard");
+        EXPECT_EQ(bytes, repeat(kBlankLine, lines) + "~\r\n*spec=0Standard\r\n") << highest;
+    }
+}
+
+TEST_F(MapFileTest, RoundTripThroughWindows1252)
+{
+    CourseTable table;
+    table.at(0, ColNS) = "N";
+    table.at(0, ColDeg) = "45\xC2\xB0";         // 45°
+    table.at(0, ColDistance) = 328.1;
+    table.at(1, ColTag) = "\xC3\xA9t\xC3\xA9"; // été
+    table.at(30, ColRadius) = "500";
+    table.gethighest();                         // 31 -> rows 0..36
+    const std::string path = (m_dir / "deed.map").string();
+    ASSERT_TRUE(writeMapFile(path, mapFileBytes(table, "Lot 7\nWest", 1, "1200"), nullptr));
+
+    const MapReadResult read = readMapFile(path);
+    ASSERT_EQ(read.status, MapReadStatus::Ok);
+    EXPECT_EQ(read.rows.size(), 37u);
+    EXPECT_TRUE(read.reachedDescription);
+    CourseTable back;
+    storeRows(read.rows, back);
+    EXPECT_EQ(back.at(0, ColDeg), Cell("45\xC2\xB0"));
+    EXPECT_EQ(back.at(0, ColDistance), Cell("328.1"));  // numbers come back as text
+    EXPECT_EQ(back.at(1, ColTag), Cell("\xC3\xA9t\xC3\xA9"));
+    EXPECT_EQ(back.at(30, ColRadius), Cell("500"));
+    const SpecSplit split = splitSpec(read.description);
+    EXPECT_EQ(split.unit, '1');
+    EXPECT_EQ(split.scale, "1200");
+    EXPECT_EQ(split.description, "Lot 7\r\nWest\r\n");
+}
+
+TEST_F(MapFileTest, EachSaveAndOpenAddsOneTrailingLineBreak)
+{
+    std::string description = "Lot 7";
+    const std::string path = (m_dir / "deed.map").string();
+    for (const std::string expected : {"Lot 7\r\n", "Lot 7\r\n\r\n", "Lot 7\r\n\r\n\r\n"}) {
+        ASSERT_TRUE(writeMapFile(path, mapFileBytes(CourseTable{}, description, 0, "Standard"), nullptr));
+        description = splitSpec(readMapFile(path).description).description;
+        EXPECT_EQ(description, expected);
+    }
+}
+
+TEST_F(MapFileTest, ReadsLinesOfEveryShape)
+{
+    struct Case {
+        const char *what;
+        std::string bytes;
+        std::vector<MapFileRow> rows;
+        bool reached;
+        std::string description;
+    };
+    const MapFileRow nRow{"N", "1"};
+    const Case cases[] = {
+        {"CR LF", "N\t1\r\n~Lot\r\n*spec=0x\r\n", {nRow}, true, "Lot\r\n*spec=0x"},
+        {"LF only", "N\t1\n\t\t\n~Lot\nb\n", {nRow, {}}, true, "Lot\r\nb"},
+        {"CR only", "N\t1\r\t\t\r~Lot\rb\r", {nRow, {}}, true, "Lot\r\nb"},
+        {"no line end at the end", "N\t1\n~a\r\n*spec=1x", {nRow}, true, "a\r\n*spec=1x"},
+        {"empty lines kept in description", "~\r\n\r\nz\r\n\r\n", {}, true, "\r\n\r\nz\r\n"},
+        {"no ~ line", "N\t1\r\nS", {nRow, {"S"}}, false, ""},
+        {"empty file", "", {}, false, ""},
+        {"~ only at line start", "a~\t~\r\n~~b", {{"a~", "~"}}, true, "~b"},
+        {"three fields", "a\tb\tc", {{"a", "b", "c"}}, false, ""},
+        {"fourteen fields", "1\t2\t3\t4\t5\t6\t7\t8\t9\t10\t11\t12\t13\t14",
+         {{"1", "2", "3", "4", "5", "6", "7", "8", "9", "10"}}, false, ""},
+        {"NUL bytes", "N\0X\t1\r\n~\0"s, {{"N\0X"s, "1"}}, true, "\0"s},
+        {"Windows-1252", "\xE9\t45\xB0\r\n~\x80", {{"\xC3\xA9", "45\xC2\xB0"}}, true, "\xE2\x82\xAC"},
+    };
+    for (const auto &c : cases) {
+        const MapReadResult read = readMapFile(put(c.bytes));
+        ASSERT_EQ(read.status, MapReadStatus::Ok) << c.what;
+        EXPECT_EQ(read.rows, c.rows) << c.what;
+        EXPECT_EQ(read.reachedDescription, c.reached) << c.what;
+        EXPECT_EQ(read.description, c.description) << c.what;
+        EXPECT_EQ(read.droppedRows, 0u) << c.what;
+    }
+}
+
+TEST_F(MapFileTest, CourseLinesPastRow201AreDroppedAndTheDescriptionStillFound)
+{
+    std::string bytes;
+    for (int r = 0; r < 250; ++r)
+        bytes += std::to_string(r) + "\r\n";
+    const MapReadResult read = readMapFile(put(bytes + "~d\r\n"));
+    ASSERT_EQ(read.status, MapReadStatus::Ok);
+    ASSERT_EQ(read.rows.size(), 202u);
+    EXPECT_EQ(read.rows[201][0], "201");
+    EXPECT_EQ(read.droppedRows, 48u); // 250 - 202
+    EXPECT_EQ(read.description, "d");
+}
+
+TEST_F(MapFileTest, OneMegabyteLineIsKept)
+{
+    const MapReadResult read = readMapFile(put(std::string(1 << 20, 'x') + "\tE"));
+    ASSERT_EQ(read.rows.size(), 1u);
+    EXPECT_EQ(read.rows[0][0].size(), 1u << 20);
+    EXPECT_EQ(read.rows[0][1], "E");
+}
+
+TEST_F(MapFileTest, BinaryJunkNeverBreaksTheReader)
+{
+    std::mt19937 random(20240611);
+    for (const std::size_t size : {1u, 2u, 3u, 17u, 4096u, 100000u, 1u << 20}) {
+        std::string junk(size, '\0');
+        for (char &c : junk)
+            c = static_cast<char>(random() % 8 == 0 ? "\r\n\t~"[random() % 4] : random() % 256);
+        const MapReadResult read = readMapFile(put(junk));
+        ASSERT_EQ(read.status, MapReadStatus::Ok) << size;
+        EXPECT_LE(read.rows.size(), 202u);
+        for (const MapFileRow &row : read.rows) // a cell never carries a line or cell separator
+            for (const std::string &cell : row)
+                EXPECT_EQ(cell.find_first_of("\t\r\n"), std::string::npos);
+        CourseTable table;
+        storeRows(read.rows, table);
+        splitSpec(read.description);
+    }
+}
+
+TEST_F(MapFileTest, FailuresToOpen)
+{
+    const std::string missing = (m_dir / "gone.map").string();
+    const MapReadResult notFound = readMapFile(missing);
+    EXPECT_EQ(notFound.status, MapReadStatus::NotFound);
+    EXPECT_EQ(notFound.message, "File " + missing + " not found.");
+
+    EXPECT_EQ(readMapFile((m_dir / "no folder" / "a.map").string()).status, MapReadStatus::Failed);
+    EXPECT_EQ(readMapFile(m_dir.string()).status, MapReadStatus::Failed);
+    const std::string huge = put("", "huge.map");
+    fs::resize_file(huge, kMaxMapFileBytes + 1); // sparse: costs no disk
+    EXPECT_EQ(readMapFile(huge).status, MapReadStatus::Failed);
+}
+
+TEST_F(MapFileTest, WriteReplacesInOnePieceAndLeavesNoTemporaryFile)
+{
+    const std::string path = put("old", "deed.map");
+    std::string error;
+    ASSERT_TRUE(writeMapFile(path, "new\0bytes"s, &error)) << error;
+    EXPECT_EQ(contents(path), "new\0bytes"s);
+    EXPECT_FALSE(writeMapFile(m_dir.string(), "x", &error)); // a folder
+    EXPECT_FALSE(writeMapFile((m_dir / "no folder" / "a.map").string(), "x", &error));
+    EXPECT_FALSE(error.empty());
+    EXPECT_EQ(std::distance(fs::directory_iterator(m_dir), fs::directory_iterator{}), 1); // only deed.map
+}
+
+TEST(SplitSpec, TakesUnitScaleAndDescriptionApart)
+{
+    struct Case { std::string text; bool found; std::optional<char> unit; std::string scale, description; };
+    const Case cases[] = {
+        {"Lot 7\r\n*spec=0Standard", true, '0', "Standard", "Lot 7\r\n"},
+        {"Lot 7", false, std::nullopt, "Standard", "Lot 7"},
+        {"*spec=", true, std::nullopt, "", ""},
+        {"x*spec=2", true, '2', "", "x"},
+        {"a*spec=1b*spec=0c", true, '1', "b*spec=0c", "a"},     // the first one counts
+        {"*spec=9 1:600", true, '9', " 1:600", ""},
+        {"*spec=\xC3\xA9" "12", true, '?', "12", ""},         // é as the unit
+    };
+    for (const auto &c : cases) {
+        const SpecSplit s = splitSpec(c.text);
+        EXPECT_EQ(s.found, c.found) << c.text;
+        EXPECT_EQ(s.unit, c.unit) << c.text;
+        EXPECT_EQ(s.scale, c.scale) << c.text;
+        EXPECT_EQ(s.description, c.description) << c.text;
+    }
+}
+
+TEST(StoreRows, LeavesRowsPastTheFileAsTheyWere)
+{
+    CourseTable table;
+    for (int r = 0; r < 40; ++r)
+        table.at(r, ColDistance) = "old";
+    storeRows(std::vector<MapFileRow>(12, MapFileRow{"N", "", "", "", "", "new"}), table);
+    EXPECT_EQ(table.at(11, ColNS), Cell("N"));
+    EXPECT_EQ(table.at(11, ColDistance), Cell("new"));
+    EXPECT_EQ(table.at(12, ColDistance), Cell("old"));
+    EXPECT_EQ(table.at(12, ColNS), Cell(""));
+    table.gethighest();
+    EXPECT_EQ(table.highest, 40);
+}
+
+TEST(WithMapExtension, AddsMapUnlessFourthCharacterFromEndIsAPoint)
+{
+    const std::pair<std::string, std::string> cases[] = {
+        {"deed", "deed.map"}, {"a.txt", "a.txt"}, {"ab", "ab.map"},
+        {"a.b.c", "a.b.c"},        // ".b.c": the fourth character from the end is a point
+        {"a.bc.d", "a.bc.d.map"},
+        {"", ".map"}, {".map", ".map"}, {"a.tx", "a.tx.map"}, {"C:\\Deeds\\lot7", "C:\\Deeds\\lot7.map"},
+        {"deed.\xC3\xA9t\xC3\xA9", "deed.\xC3\xA9t\xC3\xA9"},   // deed.été: counted in characters
+        {"x\xC3\xA9t\xC3\xA9", "x\xC3\xA9t\xC3\xA9.map"},
+    };
+    for (const auto &[chosen, expected] : cases)
+        EXPECT_EQ(withMapExtension(chosen), expected) << chosen;
+}
+
+} // namespace
+} // namespace quilmar
