@@ -3,6 +3,7 @@
 // of beginning mark and a few texts, painted on a full-HD canvas including the
 // clear. A redraw should stay well under 5 ms.
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <random>
@@ -33,16 +34,24 @@ double mapAngle(PointF centre, PointF p)
     return a < 0.0 ? a + kTurn : a;
 }
 
-// A pen walk that winds six times round the canvas centre, every third course
-// a curve bending left over its chord; the same figure on every run.
+// A pen walk that winds about five times round the canvas centre on a ring growing
+// from 2500 to 6500 twips, so that the whole deed stays on the canvas; every
+// third course is a curve bending left over its chord. The same figure on
+// every run.
 Figure deedFigure()
 {
     std::mt19937 random(20240611);
     Figure figure;
-    PointF pen{kWidthPixels * 15 / 2.0f, kHeightPixels * 15 / 2.0f};
+    const PointF middle{kWidthPixels * 15 / 2.0f, kHeightPixels * 15 / 2.0f};
+    PointF pen{middle.x + 2500, middle.y};
     const PointF beginning = pen;
     for (int i = 0; i < kCourses; ++i) {
-        const double a = i * 6.0 * kTurn / kCourses + uniform(random, -0.3, 0.3);
+        // Along the ring (a quarter turn on from the pen's bearing from the
+        // centre), steered back towards it when the pen has strayed.
+        const double ring = 2500.0 + 4000.0 * i / kCourses;
+        const double bearing = std::atan2(double(pen.y) - middle.y, double(pen.x) - middle.x);
+        const double stray = std::hypot(double(pen.x) - middle.x, double(pen.y) - middle.y) / ring - 1.0;
+        const double a = bearing + kTurn / 4 + std::clamp(stray, -0.5, 0.5) + uniform(random, -0.2, 0.2);
         if (i % 3 != 2) {
             const double d = uniform(random, 200, 2000);
             const PointF end{float(pen.x + std::cos(a) * d), float(pen.y + std::sin(a) * d)};

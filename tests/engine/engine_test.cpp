@@ -1,1 +1,232 @@
 #include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "engine.h"
+
+using namespace quilmar;
+
+namespace {
+
+class Recorder : public Prompter {
+public:
+    Answer ask(const std::string &text, const std::string &, Buttons, Icon) override
+    {
+        messages.push_back(text);
+        return Answer::Ok;
+    }
+    std::vector<std::string> messages;
+};
+
+using Row = std::array<const char *, 10>;
+
+// A fresh engine in feet at "Standard" on the default 7200 x 4800 canvas.
+struct Fixture {
+    Recorder prompter;
+    Engine engine{prompter};
+    explicit Fixture(std::initializer_list<Row> rows)
+    {
+        engine.metrix_Click(0);
+        int r = 0;
+        for (const Row &row : rows) {
+            for (int c = 0; c < 10; ++c)
+                engine.table().at(r, c + 1) = Cell(std::string(row[c]));
+            ++r;
+        }
+        engine.table().gethighest();
+        engine.mindraw();
+    }
+};
+
+// The square feet of an acres text: "0.40 acres [17,353.98 sq ft]" -> 17353.98.
+double squareFeet(const std::string &text)
+{
+    std::string digits;
+    for (char ch : text.substr(text.find('[') + 1))
+        if ((ch >= '0' && ch <= '9') || ch == '.')
+            digits += ch;
+        else if (ch == ' ')
+            break;
+    return std::stod(digits);
+}
+
+const Row kBegin{"", "", "", "", "", "", "", "", "", "B"};
+Row straight(const char *ns, const char *distance) { return {ns, "", "", "", "", distance, "", "", "", ""}; }
+
+} // namespace
+
+TEST(Engine, ResultTextsOfHandWorkedTraverses)
+{
+    struct Case {
+        const char *what;
+        std::vector<Row> rows;
+        const char *gap, *perimeter, *acres, *hectares;
+    };
+    const Case cases[] = {
+        // 100 x 100 square from a bare "B" row; the float walk misses by a hair.
+        {"square", {kBegin, straight("N", "100"), straight("E", "100"), straight("S", "100"), straight("W", "100")},
+         "Gap = 0.0 (0.00%)", "Perimeter = 400.00", "0.23 acres [10,000.00 sq ft]", "10000 Square Meters [1.00 Ha]"},
+        // Counter-clockwise the hair-breadth errors cancel exactly.
+        {"square counter-clockwise", {kBegin, straight("N", "100"), straight("W", "100"), straight("S", "100"), straight("E", "100")},
+         "Gap = 0", "Perimeter = 400.00", "0.23 acres [10,000.00 sq ft]", "10000 Square Meters [1.00 Ha]"},
+        // Open: the end lies 100 E and 100 N of the start, so back is S 45 W over 141.42 of 200.
+        {"open corner", {straight("N", "100"), straight("E", "100")}, "Gap = 141.42.  S 45° 0' W (70.71%)",
+         "Perimeter = 200.00", nullptr, nullptr},
+        // atan(30 / 100) = 16.69924 degrees = 16 41' 57''; 104.40 of 130 is 80.31%.
+        {"open with seconds", {straight("N", "100"), straight("E", "30")}, "Gap = 104.40.  S 16° 41' 57'' W (80.31%)",
+         "Perimeter = 130.00", nullptr, nullptr},
+        // Closed by a curve of radius 100 bending left over the 141.42 chord: the
+        // triangle's 5000 less the segment 7853.98 - 5000; the gap is the one
+        // before the closing leg.
+        {"curved close", {kBegin, straight("E", "100"), straight("S", "100"), {"", "", "", "", "", "", "", "100", "L", "C"}},
+         "Gap = 141.42.  N 45° 0' W (39.60%)", "Perimeter = 357.08", "0.05 acres [2,146.02 sq ft]",
+         "2146 Square Meters [0.21 Ha]"},
+        // Bending right the segment is added: 5000 + 2853.98.
+        {"curved close right", {kBegin, straight("E", "100"), straight("S", "100"), {"", "", "", "", "", "", "", "100", "R", "C"}},
+         "Gap = 141.42.  N 45° 0' W (39.60%)", "Perimeter = 357.08", "0.18 acres [7,853.98 sq ft]",
+         "7854 Square Meters [0.79 Ha]"},
+        // East 100, a tangent quarter circle of radius 100 to the right, west 190,
+        // closed straight: trapezoid 9500 + quarter disc 7853.98; perimeter
+        // 100 + 157.08 + 190 + 100.50.
+        // The last course stops 10 short, so the gap is N 5 42' 38'' W over 100.50.
+        {"tangent curve", {kBegin, straight("E", "100"), {"", "", "", "", "", "157.0796", "", "100", "R", ""}, straight("W", "190"), {"", "", "", "", "", "", "", "", "", "C"}},
+         "Gap = 100.50.  N 5° 42' 38'' W (18.35%)", "Perimeter = 547.58", "0.40 acres [17,353.98 sq ft]",
+         "17354 Square Meters [1.74 Ha]"},
+        // The same quarter circle given by its chord and bearing, then by chord and arc.
+        {"curve by chord", {kBegin, straight("E", "100"), {"S", "45", "", "", "E", "", "141.4214", "100", "R", ""}, straight("W", "190"), {"", "", "", "", "", "", "", "", "", "C"}},
+         "Gap = 100.50.  N 5° 42' 38'' W (18.35%)", "Perimeter = 547.58", "~17353.98", "17354 Square Meters [1.74 Ha]"},
+        {"curve by chord and arc", {kBegin, straight("E", "100"), {"S", "45", "", "", "E", "157.0796", "141.4214", "100", "R", ""}, straight("W", "190"), {"", "", "", "", "", "", "", "", "", "C"}},
+         "Gap = 100.50.  N 5° 42' 38'' W (18.35%)", "Perimeter = 547.58", "~17353.98", "17354 Square Meters [1.74 Ha]"},
+        // Two lots from an origin (the second lot's area point stays where the first closed).
+        {"new lot", {{"E", "", "", "", "", "1000", "", "", "", "O"}, {"N", "", "", "", "", "500", "", "", "", "B"}, straight("N", "1000"), straight("E", "1000"), straight("S", "1000"), {"", "", "", "", "", "", "", "", "", "C"}, {"", "", "", "", "", "", "", "", "", "N"}, straight("E", "500"), straight("N", "400"), {"", "", "", "", "", "", "", "", "", "C"}},
+         "Gap = 509.90.  N 78° 41' 24'' W (9.43%)", "Perimeter = 5,409.90", nullptr, nullptr},
+    };
+    for (const Case &c : cases) {
+        Fixture f{};
+        int r = 0;
+        for (const Row &row : c.rows) {
+            for (int k = 0; k < 10; ++k)
+                f.engine.table().at(r, k + 1) = Cell(std::string(row[k]));
+            ++r;
+        }
+        f.engine.table().gethighest();
+        f.engine.mindraw();
+        EXPECT_EQ(f.engine.acresbox(), "") << c.what;
+        f.engine.mnuGap_Click();
+        EXPECT_EQ(f.engine.acresbox(), c.gap) << c.what;
+        f.engine.mnuPeri_Click();
+        EXPECT_EQ(f.engine.acresbox(), c.perimeter) << c.what;
+        if (c.acres) {
+            f.engine.mnuAcres_Click();
+            if (c.acres[0] == '~') // a typed chord rounded to 4 places: compare the square feet
+                EXPECT_NEAR(squareFeet(f.engine.acresbox()), std::stod(c.acres + 1), 0.02) << c.what;
+            else
+                EXPECT_EQ(f.engine.acresbox(), c.acres) << c.what;
+            f.engine.mnuHectares_Click();
+            EXPECT_EQ(f.engine.acresbox(), c.hectares) << c.what;
+        }
+        EXPECT_TRUE(f.prompter.messages.empty()) << c.what << ": " << f.prompter.messages.front();
+    }
+}
+
+TEST(Engine, EmptyTableClosesExactly)
+{
+    Fixture f{};
+    f.engine.mnuGap_Click();
+    EXPECT_EQ(f.engine.acresbox(), "Gap = 0");
+    // An empty table fits 1 x 1: the smaller side times 0.72, centred on (0, 0).
+    EXPECT_FLOAT_EQ(f.engine.scaleFactor(), 3456.0f);
+    EXPECT_FLOAT_EQ(f.engine.scaleLeft(), -1872.0f);
+    EXPECT_FLOAT_EQ(f.engine.scaleTop(), -672.0f);
+}
+
+TEST(Engine, AreaCommandsRefuseAnOpenTraverse)
+{
+    Fixture f{straight("N", "100"), straight("E", "100")};
+    f.engine.mnuPeri_Click();
+    f.engine.mnuAcres_Click();
+    f.engine.mnuHectares_Click();
+    ASSERT_EQ(f.prompter.messages.size(), 2u);
+    EXPECT_EQ(f.prompter.messages[0], "Before you can calculate the acreage, please close the gap.  Click on Calc Gap "
+                                      "button to see gap information.");
+    EXPECT_EQ(f.prompter.messages[1], "Before you can calculate the hectares, please close the 141  gap.");
+    EXPECT_EQ(f.engine.acresbox(), "Perimeter = 200.00"); // left as it was
+}
+
+TEST(Engine, AreaWithinOneUnitOfTheBeginningIsComputed)
+{
+    // Ends 0.5 short of the start: within 1 unit, so the open remainder is ignored.
+    Fixture f{kBegin, straight("N", "100"), straight("E", "100"), straight("S", "100"), straight("W", "99.5")};
+    f.engine.mnuAcres_Click();
+    EXPECT_TRUE(f.prompter.messages.empty());
+    // The open remainder closes through the beginning: still 10,000.
+    EXPECT_EQ(f.engine.acresbox(), "0.23 acres [10,000.00 sq ft]");
+}
+
+TEST(Engine, ModesAreCarriedAsTheWindowCarriesThem)
+{
+    Fixture f{kBegin, straight("N", "100"), straight("E", "100"), straight("S", "100"), straight("W", "100")};
+    f.engine.mnuGap_Click();
+    EXPECT_TRUE(f.engine.state().perimeterMode); // the gap command leaves it on
+    f.engine.mnuPeri_Click();
+    EXPECT_FALSE(f.engine.state().perimeterMode);
+    f.engine.mnuAcres_Click();
+    EXPECT_FALSE(f.engine.state().areaMode);
+    f.engine.mindraw(); // a plain redraw empties the result line
+    EXPECT_EQ(f.engine.acresbox(), "");
+    EXPECT_EQ(f.engine.imperialText(), "0.00 acres [0.00 sq ft]");
+    EXPECT_EQ(f.engine.metricText(), " Square Meters [0.00 Ha]");
+}
+
+TEST(Engine, MessagesOfABadCurveAndABadNumber)
+{
+    Fixture f{{"N", "", "", "", "", "", "120", "50", "L", ""}};
+    EXPECT_EQ(f.prompter.messages, (std::vector<std::string>{"Error in calc of gap", "Error in curve."}));
+    EXPECT_TRUE(f.engine.state().errorFlag);
+
+    // A bearing beyond single range faults the conversion itself.
+    Fixture g{{"N", "1e39", "", "", "E", "100", "", "", "", ""}};
+    EXPECT_EQ(g.prompter.messages, (std::vector<std::string>{"6.  Error drawing map (mindraw)"}));
+
+    // A distance beyond single range first fails the fit, then the walk, and the
+    // area texts then divide 0 by a scale factor that never got set.
+    Fixture h{{"N", "", "", "", "E", "1e39", "", "", "", ""}};
+    EXPECT_EQ(h.prompter.messages, (std::vector<std::string>{"Error in rescaling", "Error in drawing map (drawmap)",
+                                                             "6.  Error drawing map (mindraw)"}));
+}
+
+TEST(Engine, ZeroCanvasFaultsAreReportedNotCrashed)
+{
+    Recorder prompter;
+    Engine engine(prompter);
+    engine.setCanvasSize(0, 0);
+    engine.table().at(0, ColNS) = "N";
+    engine.table().at(0, ColDistance) = "100";
+    engine.mindraw();
+    EXPECT_EQ(prompter.messages,
+              (std::vector<std::string>{"Error in drawing map (drawmap)", "6.  Error drawing map (mindraw)"}));
+    prompter.messages.clear();
+    engine.mnuGap_Click();
+    EXPECT_EQ(prompter.messages.back(), "Overflow");
+}
+
+TEST(Engine, FigureMarksTheBeginningAndTheEnd)
+{
+    Fixture f{straight("N", "100"), {"E", "", "", "", "", "100", "", "", "", "B"}};
+    int circles = 0, redMarks = 0;
+    for (const FigureItem &item : f.engine.figure().items) {
+        circles += std::holds_alternative<FigCircle>(item.shape);
+        if (auto t = std::get_if<FigText>(&item.shape); t && item.colour == Palette::Red) {
+            ++redMarks;
+            EXPECT_EQ(t->text, "x");
+            EXPECT_NEAR(t->at.x, f.engine.state().pen.x - 36.0f, 1e-3);
+            EXPECT_NEAR(t->at.y, f.engine.state().pen.y - 112.0f, 1e-3);
+        }
+    }
+    EXPECT_EQ(circles, 1);
+    EXPECT_EQ(redMarks, 1);
+    // Fit: extents 100 x 100 on 7200 x 4800 -> 48 * 0.72 twips a foot.
+    EXPECT_FLOAT_EQ(f.engine.scaleFactor(), 34.56f);
+    EXPECT_EQ(f.engine.autoscalebox(), "AutoScale = 21"); // 1440 / 69.12 = 20.83
+}

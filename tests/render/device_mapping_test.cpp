@@ -8,28 +8,22 @@
 namespace quilmar {
 namespace {
 
-struct MappingCase {
-    DeviceMapping mapping;
-    PointF drawing;   ///< twips
-    PointF device;    ///< device units, worked out by hand
-};
-
 TEST(DeviceMapping, MapsDrawingPointsToDeviceAndBack)
 {
-    const MappingCase cases[] = {
-        // Printer-like origin (-360, -1080) on a 15-twip screen: 360/15 = 24, 1080/15 = 72.
+    const struct {
+        DeviceMapping mapping;
+        PointF drawing, device; // twips, device units
+    } cases[] = {
+        // Origin (-360, -1080) at 15 twips a pixel: 360/15 = 24, 1080/15 = 72.
         {DeviceMapping::forPixels(-360, -1080), {0, 0}, {24, 72}},
         // (1440 + 360)/15 = 120, (150 + 1080)/15 = 82.
         {DeviceMapping::forPixels(-360, -1080), {1440, 150}, {120, 82}},
-        {DeviceMapping::forPixels(-360, -1080), {-360, -1080}, {0, 0}},
-        // Origin right of the point: (100 - 400)/15 = -20, (45 - 0)/15 = 3.
+        // Origin right of the point: (100 - 400)/15 = -20, 45/15 = 3.
         {DeviceMapping::forPixels(400, 0), {100, 45}, {-20, 3}},
-        // Double-size bitmap keeps 15 twips a pixel; 30 twips a pixel halves: 3000/30 = 100.
-        {DeviceMapping::forPixels(0, 0, 30), {3000, 1500}, {100, 50}},
-        // 600-dpi printer: 1440 twips are one inch, 600 dots; 720 twips 300 dots.
+        // 600-dpi printer: 1440 twips (an inch) are 600 dots, 720 twips 300.
         {DeviceMapping::forDotsPerInch(0, 0, 600), {1440, 720}, {600, 300}},
     };
-    for (const MappingCase &c : cases) {
+    for (const auto &c : cases) {
         const PointF device = c.mapping.toDevice(c.drawing);
         EXPECT_NEAR(device.x, c.device.x, 1e-4);
         EXPECT_NEAR(device.y, c.device.y, 1e-4);
@@ -39,22 +33,15 @@ TEST(DeviceMapping, MapsDrawingPointsToDeviceAndBack)
     }
 }
 
-TEST(DeviceMapping, LengthsIgnoreTheOrigin)
+TEST(DeviceMapping, LengthsIgnoreTheOriginAndTheLeftEdgeMovesOnlyX)
 {
-    const DeviceMapping screen = DeviceMapping::forPixels(-360, -1080);
-    EXPECT_NEAR(screen.toDeviceLength(30), 2.0, 1e-12);      // 30/15
-    EXPECT_NEAR(screen.toDrawingLength(13), 195.0, 1e-9);    // 13*15
-    const DeviceMapping printer = DeviceMapping::forDotsPerInch(-360, -1080, 600);
-    EXPECT_NEAR(printer.toDeviceLength(160), 66.6667, 1e-4); // 8 points = 160 twips = 600/9 dots
-}
-
-TEST(DeviceMapping, MovingTheLeftEdgeShiftsOnlyX)
-{
-    DeviceMapping m = DeviceMapping::forPixels(0, 0);
-    m.setScaleLeft(-360);
+    DeviceMapping m = DeviceMapping::forPixels(-360, -1080);
+    EXPECT_NEAR(m.toDeviceLength(30), 2.0, 1e-12);   // 30/15
+    EXPECT_NEAR(m.toDrawingLength(13), 195.0, 1e-9); // 13*15
+    m.setScaleLeft(0);
     const PointF p = m.toDevice({0, 600});
-    EXPECT_NEAR(p.x, 24.0, 1e-5); // 360/15
-    EXPECT_NEAR(p.y, 40.0, 1e-5); // 600/15
+    EXPECT_NEAR(p.x, 0.0, 1e-5);
+    EXPECT_NEAR(p.y, 112.0, 1e-5); // (600 + 1080)/15
 }
 
 TEST(DeviceMapping, RejectsScalesThatAreNotPositive)

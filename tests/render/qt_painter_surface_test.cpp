@@ -14,15 +14,13 @@ namespace quilmar {
 namespace {
 
 constexpr double kPi = std::numbers::pi;
+constexpr Rgb kGrey{192, 192, 192};
 
 class QtSurfaceTest : public ::testing::Test {
 protected:
-    QtSurfaceTest() : image(200, 100, QImage::Format_ARGB32_Premultiplied)
-    {
-        image.fill(toQColor(kCanvasGrey));
-    }
+    QtSurfaceTest() : image(200, 100, QImage::Format_ARGB32_Premultiplied) { image.fill(QColor(192, 192, 192)); }
 
-    /// Paints with @p draw on a surface whose origin is the image's top-left.
+    /// Paints with @p draw in blue on a surface whose origin is the image's top-left.
     template <typename Draw>
     void paint(Draw draw)
     {
@@ -38,109 +36,83 @@ protected:
         return {uint8_t(c.red()), uint8_t(c.green()), uint8_t(c.blue())};
     }
 
-    /// Whether any pixel within @p reach of (x, y) carries ink (differs from grey).
-    bool inkNear(int x, int y, int reach = 1) const
+    /// Whether any pixel of the rectangle (inclusive, clipped to the image) is not grey.
+    bool inkIn(int x0, int y0, int x1, int y1) const
     {
-        for (int dy = -reach; dy <= reach; ++dy)
-            for (int dx = -reach; dx <= reach; ++dx)
-                if (at(x + dx, y + dy) != kCanvasGrey)
+        for (int y = std::max(y0, 0); y <= std::min(y1, 99); ++y)
+            for (int x = std::max(x0, 0); x <= std::min(x1, 199); ++x)
+                if (at(x, y) != kGrey)
                     return true;
         return false;
     }
+    bool inkNear(int x, int y, int reach) const { return inkIn(x - reach, y - reach, x + reach, y + reach); }
 
     QImage image;
 };
 
-TEST_F(QtSurfaceTest, HorizontalLegCoversExactlyOnePixelRow)
-{
-    paint([](Surface &s) { s.line({0, 150}, {1500, 150}); }); // y 150/15 = row 10, to x 100
-    const Rgb blue{0, 0, 128};
-    for (int x : {1, 50, 99})
-        EXPECT_EQ(at(x, 10), blue) << "x " << x;
-    EXPECT_EQ(at(50, 9), kCanvasGrey);
-    EXPECT_EQ(at(50, 11), kCanvasGrey);
-    EXPECT_EQ(at(150, 10), kCanvasGrey); // beyond the end
-}
-
-TEST_F(QtSurfaceTest, MovedLeftEdgeShiftsLaterLines)
+TEST_F(QtSurfaceTest, LegCoversExactlyOnePixelRowAndFollowsTheLeftEdge)
 {
     paint([](Surface &s) {
+        s.line({0, 150}, {1500, 150}); // row 150/15 = 10, columns 0 to 100
         s.setScaleLeft(-360);
-        s.line({0, 0}, {0, 1500}); // x = (0 + 360)/15 = column 24
+        s.line({0, 450}, {0, 1500});   // column (0 + 360)/15 = 24, rows 30 to 100
     });
-    EXPECT_EQ(at(24, 50), (Rgb{0, 0, 128}));
-    EXPECT_EQ(at(23, 50), kCanvasGrey);
-    EXPECT_EQ(at(0, 50), kCanvasGrey);
+    const Rgb blue{0, 0, 128};
+    EXPECT_EQ(at(1, 10), blue);
+    EXPECT_EQ(at(50, 10), blue);
+    EXPECT_EQ(at(50, 9), kGrey);
+    EXPECT_EQ(at(50, 11), kGrey);
+    EXPECT_EQ(at(150, 10), kGrey);
+    EXPECT_EQ(at(24, 60), blue);
+    EXPECT_EQ(at(23, 60), kGrey);
+    EXPECT_EQ(at(0, 60), kGrey);
 }
 
-TEST_F(QtSurfaceTest, QuarterArcRunsCounterClockwiseFromEastToNorth)
+TEST_F(QtSurfaceTest, ArcsRunCounterClockwiseAsSeenOnTheMap)
 {
-    // Centre (1500, 750) twips = pixel (100, 50), radius 600 twips = 40 pixels.
-    // At 45 degrees the arc passes 40*cos 45 = 28.3 pixels right of and above
-    // the centre: pixel (128, 21..22). The other three quadrants stay empty.
-    paint([](Surface &s) { s.arc({1500, 750}, 600, 0.0, kPi / 2); });
-    EXPECT_TRUE(inkNear(128, 22));
-    EXPECT_TRUE(inkNear(140, 50)); // east end
-    EXPECT_TRUE(inkNear(100, 10)); // north end
-    EXPECT_FALSE(inkNear(128, 78, 2)) << "drawn mirrored (south-east)";
-    EXPECT_FALSE(inkNear(71, 22, 2)) << "drawn in the north-west";
-    EXPECT_FALSE(inkNear(71, 78, 2)) << "drawn in the south-west";
-}
-
-TEST_F(QtSurfaceTest, ArcWhoseEndIsBelowItsStartSweepsThroughEast)
-{
-    // From 315 degrees counter-clockwise to 45 degrees: the quarter around east
-    // (pixel 140, 50), not the three quarters through west (pixel 60, 50).
-    paint([](Surface &s) { s.arc({1500, 750}, 600, 1.75 * kPi, 0.25 * kPi); });
-    EXPECT_TRUE(inkNear(140, 50));
-    EXPECT_FALSE(inkNear(60, 50, 2));
-    EXPECT_FALSE(inkNear(100, 10, 2)) << "swept through north";
+    // Centre (1500, 750) twips = pixel (100, 50), radius 600 twips = 40 pixels:
+    // east (140, 50), north (100, 10), west (60, 50); at 45 degrees 40*cos 45 =
+    // 28.3 pixels off the centre each way: NE (128, 22), SE (128, 78), NW (71, 22).
+    const struct {
+        double start, end;
+        std::vector<QPoint> inked, empty;
+    } cases[] = {
+        {0.0, kPi / 2, {{128, 22}, {140, 50}, {100, 10}}, {{128, 78}, {71, 22}, {71, 78}}},
+        // An end below the start: the quarter round east, not three quarters.
+        {1.75 * kPi, 0.25 * kPi, {{140, 50}}, {{60, 50}, {100, 10}}},
+    };
+    for (const auto &c : cases) {
+        image.fill(QColor(192, 192, 192));
+        paint([&c](Surface &s) { s.arc({1500, 750}, 600, c.start, c.end); });
+        for (QPoint p : c.inked)
+            EXPECT_TRUE(inkNear(p.x(), p.y(), 1)) << c.start << " to " << c.end << " misses " << p.x() << "," << p.y();
+        for (QPoint p : c.empty)
+            EXPECT_FALSE(inkNear(p.x(), p.y(), 2)) << c.start << " to " << c.end << " inks " << p.x() << "," << p.y();
+    }
 }
 
 TEST_F(QtSurfaceTest, PointOfBeginningCircleIsNotFilled)
 {
-    // 30 twips = 2 pixels around pixel (100, 50).
-    paint([](Surface &s) { s.circle({1500, 750}, 30); });
+    paint([](Surface &s) { s.circle({1500, 750}, 30); }); // 2 pixels round (100, 50)
     EXPECT_TRUE(inkNear(102, 50, 0));
-    EXPECT_EQ(at(100, 50), kCanvasGrey);
+    EXPECT_EQ(at(100, 50), kGrey);
     EXPECT_FALSE(inkNear(100, 45, 1));
 }
 
-TEST_F(QtSurfaceTest, TextHangsBelowAndRightOfItsPoint)
+TEST_F(QtSurfaceTest, TextHangsFromItsTopLeftCornerLinesBelow)
 {
     float height = 0;
     paint([&height](Surface &s) {
-        s.text({1500, 300}, 0, "CANNOT CLOSE."); // top-left at pixel (100, 20)
+        s.text({1500, 150}, 1, "CANNOT CLOSE."); // second line below pixel (100, 10)
         height = s.textHeight();
     });
-    bool inkBelow = false, inkAbove = false, inkLeft = false;
-    for (int y = 0; y < 100; ++y)
-        for (int x = 0; x < 200; ++x) {
-            const bool ink = at(x, y) != kCanvasGrey;
-            inkBelow |= ink && y >= 20 && y < 34 && x >= 100;
-            inkAbove |= ink && y < 20;
-            inkLeft |= ink && x < 100;
-        }
-    EXPECT_TRUE(inkBelow);
-    EXPECT_FALSE(inkAbove) << "text placed on its baseline instead of its top";
-    EXPECT_FALSE(inkLeft);
-    // An 11-pixel font spaces its lines about 13 pixels apart: 195 twips.
-    EXPECT_GT(height, 150.0f);
-    EXPECT_LT(height, 240.0f);
-}
-
-TEST_F(QtSurfaceTest, SecondTextLineIsOneTextHeightLower)
-{
-    float height = 0;
-    paint([&height](Surface &s) {
-        s.text({0, 0}, 1, "x");
-        height = s.textHeight();
-    });
-    const int lineTop = static_cast<int>(height / 15);
-    for (int y = 0; y < lineTop; ++y)
-        for (int x = 0; x < 20; ++x)
-            ASSERT_EQ(at(x, y), kCanvasGrey) << "ink above the second line at " << x << "," << y;
-    EXPECT_TRUE(inkNear(3, lineTop + 8, 3));
+    // An 11-pixel font spaces its lines about 13 pixels apart: some 195 twips.
+    ASSERT_GT(height, 150.0f);
+    ASSERT_LT(height, 240.0f);
+    const int top = 10 + static_cast<int>(height / 15);
+    EXPECT_TRUE(inkIn(100, top, 199, top + 13));
+    EXPECT_FALSE(inkIn(0, 0, 199, top - 1)) << "text placed on its baseline or on the first line";
+    EXPECT_FALSE(inkIn(0, 0, 99, 99));
 }
 
 } // namespace

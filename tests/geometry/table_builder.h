@@ -1,0 +1,28 @@
+#pragma once
+// Builds course tables for tests from rows written as the user types them.
+
+#include <array>
+#include <initializer_list>
+#include <string>
+
+#include "course_table.h"
+
+namespace quilmar::test {
+
+/// One row: N/S, degrees, minutes, seconds, E/W, distance, chord, radius, L/R, tag.
+using Row = std::array<const char *, 10>;
+
+inline CourseTable makeTable(std::initializer_list<Row> rows)
+{
+    CourseTable t;
+    int r = 0;
+    for (const Row &row : rows) {
+        for (int c = 0; c < 10; ++c)
+            t.at(r, c + 1) = Cell(std::string(row[c]));
+        ++r;
+    }
+    t.gethighest();
+    return t;
+}
+
+} // namespace quilmar::test

@@ -1,0 +1,199 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "course_conversion.h"
+#include "curves.h"
+#include "table_builder.h"
+#include "vb_math.h"
+#include "walk.h"
+
+using namespace quilmar;
+using quilmar::test::makeTable;
+
+namespace {
+
+struct Walked {
+    TraverseState state;
+    Figure figure;
+    std::string message;
+};
+
+Walked walk(CourseTable t, bool areaMode = true, float scale = 1.0f)
+{
+    Walked w;
+    LegTable legs = convertCourses(t, [](const std::string &) {});
+    w.state.areaMode = areaMode;
+    w.state.perimeterMode = true;
+    WalkOptions options;
+    options.scaleFactor = scale;
+    w.message = walkCourses(legs, options, w.state, w.figure);
+    return w;
+}
+
+template <class T> std::vector<T> itemsOf(const Figure &f)
+{
+    std::vector<T> out;
+    for (const FigureItem &i : f.items)
+        if (auto p = std::get_if<T>(&i.shape))
+            out.push_back(*p);
+    return out;
+}
+
+} // namespace
+
+TEST(Curves, ChordAndArcCompletion)
+{
+    EXPECT_NEAR(chordFromArc(100.0f, 100.0f), 95.8851, 1e-3);
+    EXPECT_NEAR(arcFromChord(100.0f, 200.0f), 311.36, 0.01);
+    EXPECT_THROW(arcFromChord(50.0f, 120.0f), VbError);
+    EXPECT_NEAR(perimeterArc(100.0f, 141.42136f), 157.0796, 1e-3); // quarter circle
+}
+
+TEST(Curves, LeftCurveCentreLiesLeftOfTheChord)
+{
+    // Chord of 141.42 heading south-east (45 degrees) on radius 100: a quarter
+    // circle. Bending left its centre is north-east of the start, at (100, 0).
+    for (bool right : {false, true}) {
+        Figure f;
+        PointF pen{0, 0};
+        CurveSink sink{&f, Target::Screen};
+        EXPECT_EQ(traceCurve(right, pen, 45.0 * 3.14159265 / 180.0, 100.0f, 141.42136f, sink), "");
+        EXPECT_NEAR(pen.x, 100.0f, 1e-3);
+        EXPECT_NEAR(pen.y, 100.0f, 1e-3);
+        auto arcs = itemsOf<FigArc>(f);
+        ASSERT_EQ(arcs.size(), 1u);
+        EXPECT_NEAR(arcs[0].centre.x, right ? 0.0f : 100.0f, 1e-3);
+        EXPECT_NEAR(arcs[0].centre.y, right ? 100.0f : 0.0f, 1e-3);
+        // Counter-clockwise on the map from start to end: 90 degrees either way.
+        double sweep = arcs[0].end - arcs[0].start;
+        if (sweep < 0)
+            sweep += 2 * M_PI;
+        EXPECT_NEAR(sweep, M_PI / 2, 1e-5);
+    }
+}
+
+TEST(Curves, RadiusShorterThanHalfTheChordFails)
+{
+    PointF pen{5, 5};
+    EXPECT_EQ(traceCurve(false, pen, 0.0, 50.0f, 120.0f, CurveSink{}), "Error in curve.");
+    EXPECT_EQ(pen, (PointF{5, 5}));
+}
+
+TEST(Walk, BeginningNewLotAndOrigin)
+{
+    Walked w = walk(makeTable({
+        {"E", "", "", "", "", "100", "", "", "", "O"},
+        {"N", "", "", "", "", "50", "", "", "", "B"},
+        {"E", "", "", "", "", "10", "", "", "", ""},
+        {"", "", "", "", "", "", "", "", "", "N"},
+        {"S", "", "", "", "", "20", "", "", "", ""},
+    }));
+    EXPECT_EQ(w.message, "");
+    EXPECT_NEAR(w.state.origin.x, 100.0f, 1e-3);
+    EXPECT_NEAR(w.state.pob.x, 100.0f, 1e-3);
+    EXPECT_NEAR(w.state.pob.y, -50.0f, 1e-3);
+    // After "N" the pen went back to the origin, then 20 south.
+    EXPECT_NEAR(w.state.pen.x, 100.0f, 1e-3);
+    EXPECT_NEAR(w.state.pen.y, 20.0f, 1e-3);
+    EXPECT_NEAR(w.state.canvas.y, 20.0f, 1e-3);
+    auto circles = itemsOf<FigCircle>(w.figure);
+    ASSERT_EQ(circles.size(), 1u);
+    EXPECT_FLOAT_EQ(circles[0].radius, 30.0f);
+    EXPECT_NEAR(circles[0].centre.y, -50.0f, 1e-3);
+    std::vector<FigLine> lines;
+    for (const FigLine &l : itemsOf<FigLine>(w.figure))
+        if (!(l.from == l.to)) // empty rows step by nothing
+            lines.push_back(l);
+    ASSERT_EQ(lines.size(), 4u);
+    EXPECT_NEAR(lines[3].from.x, 100.0f, 1e-3); // the new lot starts at the origin
+    EXPECT_NEAR(lines[3].from.y, 0.0f, 1e-3);
+}
+
+TEST(Walk, StraightCloseReturnsToTheBeginning)
+{
+    Walked w = walk(makeTable({
+        {"", "", "", "", "", "", "", "", "", "B"},
+        {"E", "", "", "", "", "100", "", "", "", ""},
+        {"S", "", "", "", "", "100", "", "", "", ""},
+        {"N", "10", "", "", "E", "999", "", "", "", "C"}, // its own bearing is not used
+    }));
+    EXPECT_EQ(w.state.pen, w.state.pob);
+    EXPECT_NEAR(w.state.closingStart.x, 100.0f, 1e-3);
+    EXPECT_NEAR(w.state.closingStart.y, 100.0f, 1e-3);
+    EXPECT_TRUE(w.state.closingFlag); // only a curved close clears it
+    EXPECT_NEAR(w.state.areaSum, 5000.0f, 0.01);
+    EXPECT_NEAR(w.state.perimeterSum, 200.0 + std::sqrt(20000.0), 1e-3);
+}
+
+TEST(Walk, CurvedCloseAndCannotClose)
+{
+    // Closing from (100, 100) to (0, 0) on radius 100 bending left cuts the
+    // quarter-circle segment (7853.98 - 5000) out of the triangle's 5000.
+    Walked ok = walk(makeTable({
+        {"", "", "", "", "", "", "", "", "", "B"},
+        {"E", "", "", "", "", "100", "", "", "", ""},
+        {"S", "", "", "", "", "100", "", "", "", ""},
+        {"", "", "", "", "", "", "", "100", "L", "C"},
+    }));
+    EXPECT_FALSE(ok.state.closingFlag);
+    EXPECT_NEAR(ok.state.areaSum, 2146.018f, 0.01);
+    EXPECT_NEAR(ok.state.perimeterSum, 357.0796, 1e-3);
+    EXPECT_NEAR(ok.state.pen.x, 0.0f, 1e-3);
+
+    for (const char *lr : {"L", "R"}) {
+        Walked bad = walk(makeTable({
+            {"", "", "", "", "", "", "", "", "", "B"},
+            {"E", "", "", "", "", "100", "", "", "", ""},
+            {"S", "", "", "", "", "100", "", "", "", ""},
+            {"", "", "", "", "", "", "", "50", lr, "C"},
+        }));
+        EXPECT_EQ(bad.message, ""); // the walk goes on
+        EXPECT_TRUE(bad.state.closingFlag);
+        EXPECT_NEAR(bad.state.pen.x, 100.0f, 1e-3); // left open
+        auto texts = itemsOf<FigText>(bad.figure);
+        ASSERT_EQ(texts.size(), 3u);
+        EXPECT_EQ(texts[0].text, "x");
+        EXPECT_EQ(texts[1].text, "CANNOT CLOSE.");
+        EXPECT_EQ(texts[2].text, std::string(lr) == "L" ? "Error in curve" : "Error int curve");
+        EXPECT_EQ(texts[2].lineOffset, 1);
+        EXPECT_EQ(itemsOf<FigScaleLeft>(bad.figure).at(0).left, -360.0f);
+    }
+}
+
+TEST(Walk, CurveThatCannotSpanItsChordStopsTheWalk)
+{
+    Walked w = walk(makeTable({
+        {"N", "", "", "", "", "", "120", "50", "L", ""},
+        {"E", "", "", "", "", "100", "", "", "", ""},
+    }));
+    EXPECT_EQ(w.message, "Error in curve.");
+    EXPECT_TRUE(itemsOf<FigLine>(w.figure).empty());
+}
+
+TEST(Walk, HalfCircleByChordIsDrawn)
+{
+    // Chord exactly twice the radius: drawn as a half circle, not rejected.
+    Walked w = walk(makeTable({{"E", "", "", "", "", "", "200", "100", "R", ""}}));
+    EXPECT_EQ(w.message, "");
+    EXPECT_NEAR(w.state.pen.x, 200.0f, 1e-3);
+    EXPECT_EQ(itemsOf<FigArc>(w.figure).size(), 1u);
+}
+
+TEST(Walk, AreaIsTheSameBothWaysRound)
+{
+    auto square = [](const char *a, const char *b, const char *c, const char *d) {
+        return walk(makeTable({
+                        {"", "", "", "", "", "", "", "", "", "B"},
+                        {a, "", "", "", "", "100", "", "", "", ""},
+                        {b, "", "", "", "", "100", "", "", "", ""},
+                        {c, "", "", "", "", "100", "", "", "", ""},
+                        {d, "", "", "", "", "100", "", "", "", ""},
+                    }))
+            .state.areaSum;
+    };
+    const float clockwise = square("N", "E", "S", "W");
+    const float counter = square("N", "W", "S", "E");
+    EXPECT_NEAR(clockwise, 10000.0f, 0.01);
+    EXPECT_NEAR(counter, -10000.0f, 0.01);
+}
