@@ -1,4 +1,5 @@
 # Quilmar Deed Plotter: `make run` draws the built-in demo deed, `make test` builds and runs every test.
+MAKEFLAGS += --no-print-directory
 BUILD ?= build
 JOBS  ?= $(shell nproc)
 QUILMAR = $(BUILD)/src/app/quilmar

@@ -2,7 +2,9 @@
 // at 15 twips a pixel). Pen lines pass through pixel centres, so a drawing
 // point at twip (15i, 15j) lights pixel (i, j).
 
+#include <algorithm>
 #include <numbers>
+#include <vector>
 
 #include <QImage>
 #include <QPainter>

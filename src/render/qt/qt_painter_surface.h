@@ -48,7 +48,8 @@ public:
     void arc(PointF centre, float radius, double startRadians, double endRadians) override;
     void circle(PointF centre, float radius) override;
     void text(PointF at, int lineOffset, std::string_view utf8) override;
-    /// The font's line spacing in twips (195 for 13 pixels at 15 twips a pixel).
+    /// The font's line spacing in twips: about 13 pixels, some 190 twips, on a
+    /// 15-twip-a-pixel image.
     float textHeight() const override;
 
 private:
