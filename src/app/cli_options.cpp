@@ -1,5 +1,7 @@
 #include "cli_options.h"
 
+#include "cli_commands.h"
+
 #include <algorithm>
 #include <charconv>
 
@@ -18,6 +20,16 @@ bool parseTwips(std::string_view text, float &value)
 }
 
 } // namespace
+
+std::string usageText()
+{
+    return "usage:\n"
+           "  quilmar report [--json] [--scale TEXT] [--units feet|meters|other] [--canvas WxH] FILE.map\n"
+           "  quilmar plot [--scale TEXT] [--units feet|meters|other] [--canvas WxH] -o OUT.png|OUT.svg FILE.map\n"
+           "  quilmar sample N [-o OUT.map]\n"
+           "  quilmar calc [--json] NAME ANSWER\n"
+           "  quilmar convert FROM FILE.map [-o OUT.map]\n";
+}
 
 const char *unitsName(Units units)
 {

@@ -4,24 +4,9 @@
 #include <cstdlib>
 #include <string>
 
-#ifdef QUILMAR_HAVE_CALC
 #include "cli_calc.h"
-#endif
 #include "cli_commands.h"
 
-namespace quilmar {
-
-std::string usageText()
-{
-    return "usage:\n"
-           "  quilmar report [--json] [--scale TEXT] [--units feet|meters|other] [--canvas WxH] FILE.map\n"
-           "  quilmar plot [--scale TEXT] [--units feet|meters|other] [--canvas WxH] -o OUT.png|OUT.svg FILE.map\n"
-           "  quilmar sample N [-o OUT.map]\n"
-           "  quilmar calc [--json] NAME ANSWER\n"
-           "  quilmar convert FROM FILE.map [-o OUT.map]\n";
-}
-
-} // namespace quilmar
 
 int main(int argc, char *argv[])
 {
@@ -45,12 +30,10 @@ int main(int argc, char *argv[])
         status = runPlotCommand(args, out, err);
     } else if (command == "sample") {
         status = runSampleCommand(args, out, err);
-#ifdef QUILMAR_HAVE_CALC
     } else if (command == "calc") {
         status = runCalcCommand(args, out, err);
     } else if (command == "convert") {
         status = runConvertCommand(args, out, err);
-#endif
     } else {
         err = "quilmar: unknown command \"" + command + "\"\n" + usageText();
     }

@@ -10,18 +10,18 @@
 
 namespace quilmar {
 
-float levelFactor(std::string_view scaleText)
+double levelFactor(std::string_view scaleText)
 {
     std::string t(trimBlanks(scaleText));
     for (char &ch : t)
         ch = char(std::toupper(static_cast<unsigned char>(ch)));
     if (t == "MINIMUM")
-        return 0.36f;
+        return 0.36;
     if (t == "SMALL")
-        return 0.48f;
+        return 0.48;
     if (t == "MAXIMUM")
-        return 0.96f;
-    return 0.72f;
+        return 0.96;
+    return 0.72;
 }
 
 FitResult rescaling(const LegTable &legs, const ScaleChoice &choice, float width, float height, bool printing,

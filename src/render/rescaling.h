@@ -17,7 +17,7 @@ enum class Units : int { Feet = 0, Meters = 1, Other = 2 };
 
 /// Level factor of a scale text, compared trimmed and upper-cased:
 /// MINIMUM 0.36, SMALL 0.48, STANDARD 0.72, MAXIMUM 0.96, anything else 0.72.
-float levelFactor(std::string_view scaleText);
+double levelFactor(std::string_view scaleText);
 
 struct ScaleChoice {
     std::string scaleText = "Standard"; ///< the scale box's text as shown

@@ -1,1 +1,181 @@
 #include <gtest/gtest.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <filesystem>
+#include <fstream>
+
+#include "cli_commands.h"
+
+using namespace quilmar;
+
+namespace {
+
+std::filesystem::path tempDir()
+{
+    static const std::filesystem::path dir = [] {
+        auto d = std::filesystem::temp_directory_path() / ("quilmar_cli_" + std::to_string(::getpid()));
+        std::filesystem::create_directories(d);
+        return d;
+    }();
+    return dir;
+}
+
+std::string writeFile(const std::string &name, const std::string &bytes)
+{
+    const auto path = tempDir() / name;
+    std::ofstream(path, std::ios::binary) << bytes;
+    return path.string();
+}
+
+std::string sampleFile(int n)
+{
+    std::string out, err;
+    EXPECT_EQ(runSampleCommand({std::to_string(n)}, out, err), 0);
+    return writeFile("sample" + std::to_string(n) + ".map", out);
+}
+
+struct Outcome {
+    int status;
+    std::string out, err;
+};
+
+Outcome report(const Args &args)
+{
+    Outcome r;
+    r.status = runReportCommand(args, r.out, r.err);
+    return r;
+}
+
+} // namespace
+
+TEST(CliReport, DemoSamples)
+{
+    // Worked by hand: sample 1 ends at (-96.61, 1735.99) before closing, POB
+    // (0, 1000): 742.32 back N 7 28' 42'' E. Sample 4's two lots: 4000 + 509.90
+    // perimeter; lot 1 adds 1,000,000, lot 2's shoelace from the first lot's
+    // closing point -350,000. Sample 6 closes across 106.07, perimeter 75 + 106.07.
+    // Samples 2, 3 and 5 are checked for their gap and perimeter lines. The
+    // square feet carry the single-precision area sum: about seven digits.
+    struct Case {
+        int sample;
+        const char *expected;
+    };
+    const Case cases[] = {
+        {1, "\nGap = 742.32.  N 7° 28' 42'' E (17.92%)\nPerimeter = 4,142.32\n23.81 acres [1,037,108.08 sq ft]\n"
+            "1037108 Square Meters [103.71 Ha]\n"},
+        {2, "\nGap = 222.82.  N 7° 7' 20'' W (6.13%)\nPerimeter = 3,632.21\n19.38 acres [844,281.00 sq ft]\n"
+            "844281 Square Meters [84.43 Ha]\n"},
+        {3, "\nGap = 660.55.  N 15° 45' 35'' W (17.57%)\nPerimeter = 3,760.55\n20.18 acres [878,934.35 sq ft]\n"
+            "878934 Square Meters [87.89 Ha]\n"},
+        {4, "\nGap = 509.90.  N 78° 41' 24'' W (9.43%)\nPerimeter = 5,409.90\n14.92 acres [650,000.08 sq ft]\n"
+            "650000 Square Meters [65.00 Ha]\n"},
+        {5, "\nGap = 1,632.74.  N 66° 33' 15'' E (46.22%)\nPerimeter = 3,532.74\n8.49 acres [369,809.11 sq ft]\n"
+            "369809 Square Meters [36.98 Ha]\n"},
+        {6, "\nGap = 106.07.  S 90° 0' E (58.58%)\nPerimeter = 181.07\n0.06 acres [2,651.65 sq ft]\n"
+            "2652 Square Meters [0.27 Ha]\n"},
+    };
+    for (const Case &c : cases) {
+        Outcome r = report({sampleFile(c.sample)});
+        EXPECT_EQ(r.status, 0);
+        EXPECT_EQ(r.out, c.expected) << "sample " << c.sample;
+        EXPECT_EQ(r.err, "");
+    }
+}
+
+TEST(CliReport, JsonCarriesLegsPointsAndCommands)
+{
+    Outcome r = report({"--json", sampleFile(4)});
+    ASSERT_EQ(r.status, 0) << r.err;
+    const QJsonObject o = QJsonDocument::fromJson(QByteArray::fromStdString(r.out)).object();
+    EXPECT_EQ(o["units"].toString(), "feet");
+    EXPECT_EQ(o["scale"].toString(), "Standard");
+    EXPECT_EQ(o["highest"].toInt(), 10);
+    EXPECT_EQ(o["canvas"].toArray(), (QJsonArray{7200, 4800}));
+    // Extents 2000 x 1500 on 7200 x 4800: min(3.6, 3.2) * 0.72 = 2.304 twips a foot.
+    EXPECT_NEAR(o["scale_factor"].toDouble(), 2.304, 1e-6);
+    // 1440 / 4.608 is 312.5 on paper; the single-precision factor is a hair
+    // above 2.304 (4800 / 1500 rounds up in single), so the caption says 312.
+    EXPECT_EQ(o["autoscale"].toString(), "AutoScale = 312");
+    const QJsonArray legs = o["legs"].toArray();
+    ASSERT_EQ(legs.size(), 12); // rows 0 to highest + 1
+    EXPECT_EQ(legs[0].toObject()["direction"].toDouble(), 0.0);   // "E": N 90 E
+    EXPECT_EQ(legs[1].toObject()["direction"].toDouble(), -90.0); // "N"
+    EXPECT_EQ(legs[6].toObject()["tag"].toString(), "N");
+    EXPECT_EQ(legs[6].toObject()["course"].toInt(), 6);
+    EXPECT_EQ(legs[7].toObject()["course"].toInt(), 7);
+    EXPECT_TRUE(legs[6].toObject()["direction"].isNull());
+    EXPECT_EQ(legs[7].toObject()["distance"].toDouble(), 500.0);
+    const QJsonArray pob = o["pob"].toArray(), end = o["end"].toArray();
+    EXPECT_NEAR(pob[0].toDouble(), 1000.0, 1e-3);
+    EXPECT_NEAR(pob[1].toDouble(), -500.0, 1e-3);
+    EXPECT_NEAR(end[0].toDouble(), 1000.0, 1e-3); // closed back to the beginning
+    const QJsonObject commands = o["commands"].toObject();
+    EXPECT_EQ(commands["open"].toObject()["acresbox"].toString(), "");
+    EXPECT_EQ(commands["perimeter"].toObject()["acresbox"].toString(), "Perimeter = 5,409.90");
+    EXPECT_TRUE(commands["hectares"].toObject()["messages"].toArray().isEmpty());
+}
+
+TEST(CliReport, OverridesAndRefusals)
+{
+    // An open corner: both area commands refuse, each with its own message line.
+    const std::string open = writeFile("open.map", "N\t\t\t\t\t100\t\t\t\t\r\nE\t\t\t\t\t100\t\t\t\t\r\n~\r\n*spec=1Small\r\n");
+    Outcome r = report({open});
+    EXPECT_EQ(r.out, "\nGap = 141.42.  S 45° 0' W (70.71%)\nPerimeter = 200.00\n"
+                     "! Before you can calculate the acreage, please close the gap.  Click on Calc Gap button to see "
+                     "gap information.\nPerimeter = 200.00\n"
+                     "! Before you can calculate the hectares, please close the 141  gap.\nPerimeter = 200.00\n");
+    Outcome j = report({"--json", "--units", "other", "--scale", "Maximum", "--canvas", "1440x1440", open});
+    const QJsonObject o = QJsonDocument::fromJson(QByteArray::fromStdString(j.out)).object();
+    EXPECT_EQ(o["units"].toString(), "other");
+    EXPECT_EQ(o["scale"].toString(), "Maximum");
+    EXPECT_NEAR(o["scale_factor"].toDouble(), 14.4 * 0.96, 1e-4); // 1440 / 100 at Maximum
+    EXPECT_EQ(o["description"].toString(), "\r\n");
+    const QJsonObject file = QJsonDocument::fromJson(QByteArray::fromStdString(report({"--json", open}).out)).object();
+    EXPECT_EQ(file["units"].toString(), "meters");
+    EXPECT_EQ(file["scale"].toString(), "Small");
+}
+
+TEST(CliReport, BadInput)
+{
+    struct Case {
+        Args args;
+        int status;
+        const char *errPart;
+    };
+    const std::string missing = (tempDir() / "nowhere.map").string();
+    const Case cases[] = {
+        {{missing}, 1, "not found."},
+        {{}, 1, "no map file"},
+        {{"--units", "yards", missing}, 1, "--units"},
+        {{"--canvas", "12by5", missing}, 1, "--canvas"},
+        {{"--bogus", missing}, 1, "unknown option"},
+        {{tempDir().string()}, 1, "Cannot read"},
+    };
+    for (const Case &c : cases) {
+        Outcome r = report(c.args);
+        EXPECT_EQ(r.status, c.status);
+        EXPECT_NE(r.err.find(c.errPart), std::string::npos) << r.err;
+        EXPECT_EQ(r.out, "");
+    }
+    // Junk is read as rows of text: no crash, exit 0.
+    std::string junk;
+    for (int i = 0; i < 5000; ++i)
+        junk += char((i * 7919) % 256);
+    EXPECT_EQ(report({writeFile("junk.map", junk)}).status, 0);
+}
+
+TEST(CliSample, WritesTheSampleAsSaveAsWould)
+{
+    std::string out, err;
+    ASSERT_EQ(runSampleCommand({"6"}, out, err), 0);
+    EXPECT_TRUE(out.starts_with("S\t\t\t\t\t100\t\t\t\tO\r\nS\t45\t\t\tE\t75\t\t\t\tB\r\n"));
+    EXPECT_NE(out.find("\r\n~This is a sample of a lot that closes from TWO sides."), std::string::npos);
+    EXPECT_TRUE(out.ends_with("Help menu again.\r\n*spec=0Standard\r\n"));
+    for (const char *bad : {"0", "7", "x", ""}) {
+        std::string o, e;
+        EXPECT_EQ(runSampleCommand({bad}, o, e), 1) << bad;
+    }
+}
