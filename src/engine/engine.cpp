@@ -38,10 +38,9 @@ void Engine::mindraw()
     }
     m_mapComputed = true;
     try {
-        m_legs.clear();
         m_state.closingFlag = false;
         m_state.closingStart = {};
-        m_legs = convertCourses(m_table, [this](const std::string &text) { showError(text); });
+        convertCourses(m_table, m_legs, [this](const std::string &text) { showError(text); });
 
         FitResult fit = rescaling(m_legs, m_scale, m_canvasWidth, m_canvasHeight, m_printing, m_scaleFactor,
                                   m_state, m_shares);

@@ -22,4 +22,7 @@ using MessageFn = std::function<void(const std::string &)>;
 /// @throws VbError for faults the caller reports as "N.  Error drawing map (mindraw)"
 LegTable convertCourses(CourseTable &table, const MessageFn &message);
 
+/// The same into @p legs, whose storage is reused from one computation to the next.
+void convertCourses(CourseTable &table, LegTable &legs, const MessageFn &message);
+
 } // namespace quilmar

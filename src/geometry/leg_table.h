@@ -22,6 +22,12 @@ struct Leg {
     std::string tag; ///< "B", "C", "N", "O" or anything typed
     int course = 0;  ///< course number shown on the map
 
+    /// The numbers of distance, radius and chord, read once when the course is
+    /// computed; the fit and the walk read these instead of the text.
+    double distanceValue = 0.0;
+    double radiusValue = 0.0;
+    double chordValue = 0.0;
+
     float directionValue() const { return direction.value_or(0.0f); }
 };
 

@@ -24,14 +24,14 @@ public:
     std::string row(const Leg &leg)
     {
         const float sf = m_options.scaleFactor;
-        float r = sng(double(sf) * leg.radius.value());
-        const float d = sng(double(sf) * leg.distance.value());
-        const float c = sng(double(sf) * leg.chord.value());
+        float r = sng(double(sf) * leg.radiusValue);
+        const float d = sng(double(sf) * leg.distanceValue);
+        const float c = sng(double(sf) * leg.chordValue);
         // Deliberate: a half circle is avoided by a nudge of the radius.
         if (r > 0.0f && c > 0.0f && 2.0 * r == c)
             r = sng(r + 0.00000001);
 
-        const std::string tag(trimBlanks(leg.tag));
+        const std::string_view tag = trimBlanks(leg.tag);
         if (tag == "C") {
             m_state.closingFlag = true;
             m_state.closingRadius = r;
@@ -47,7 +47,7 @@ public:
             if (m_state.areaMode)
                 addShoelaceStep(m_state.areaPoint, m_state.areaSum, sng(std::cos(a) * c), sng(std::sin(a) * c));
             addReferenceLabel(m_figure, m_options, m_state.canvas, leg.course, std::cos(a) * c, std::sin(a) * c);
-            const bool right = std::string(trimBlanks(leg.lr)) == "R";
+            const bool right = trimBlanks(leg.lr) == "R";
             CurveSink sink{&m_figure, legTarget(), m_state.areaMode, m_state.perimeterMode, &m_state.areaSum,
                            &m_state.perimeterSum};
             std::string message = traceCurve(right, m_state.pen, a, r, c, sink);
@@ -87,7 +87,7 @@ private:
         m_state.canvas = to;
     }
 
-    void afterCourse(const std::string &tag)
+    void afterCourse(std::string_view tag)
     {
         if (tag == "N") {
             m_state.pen = m_state.origin;

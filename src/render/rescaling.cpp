@@ -32,14 +32,27 @@ FitResult rescaling(const LegTable &legs, const ScaleChoice &choice, float width
     PointF run;
     float minX = 0, minY = 0, maxX = 0, maxY = 0, extX = 1, extY = 1;
     int straightLegs = 0;
+    bool rowsDone = false;
+    // The fit of the extents reached so far; the walk below only widens them, so
+    // fitting once after the last row (or at a fault) equals fitting every row.
+    auto fitExtents = [&] {
+        extX = sng(double(maxX) - minX);
+        extY = sng(double(maxY) - minY);
+        if (extX == 0.0f)
+            extX = 1.0f;
+        if (extY == 0.0f)
+            extY = 1.0f;
+        const float fx = sng(width / extX), fy = sng(height / extY);
+        fit.scaleFactor = fx < fy ? fx : fy;
+    };
     try {
         for (const Leg &leg : legs) {
             const double a = double(leg.directionValue()) * kPi / 180.0;
-            const double distance = leg.distance.value();
-            const double chord = leg.chord.value();
+            const double distance = leg.distanceValue;
+            const double chord = leg.chordValue;
             // A curve of radius "0" is still a curve: the test adds 0.01.
-            const double radius = leg.radius.isEmpty() ? 0.0 : leg.radius.value() + 0.01;
-            const std::string tag(trimBlanks(leg.tag));
+            const double radius = leg.radius.isEmpty() ? 0.0 : leg.radiusValue + 0.01;
+            const std::string_view tag = trimBlanks(leg.tag);
             if (tag == "N")
                 run = state.origin;
             if (radius == 0.0) {
@@ -54,14 +67,7 @@ FitResult rescaling(const LegTable &legs, const ScaleChoice &choice, float width
             minY = std::min(minY, run.y);
             maxX = std::max(maxX, run.x);
             maxY = std::max(maxY, run.y);
-            extX = sng(double(maxX) - minX);
-            extY = sng(double(maxY) - minY);
-            if (extX == 0.0f)
-                extX = 1.0f;
-            if (extY == 0.0f)
-                extY = 1.0f;
-            const float fx = sng(width / extX), fy = sng(height / extY);
-            fit.scaleFactor = fx < fy ? fx : fy;
+            rowsDone = true;
             if (tag == "B") {
                 state.pob = run;
             } else if (tag == "O") {
@@ -71,6 +77,7 @@ FitResult rescaling(const LegTable &legs, const ScaleChoice &choice, float width
                 run = state.pob;
             }
         }
+        fitExtents();
         fit.scaleFactor = sng(double(fit.scaleFactor) * levelFactor(choice.scaleText));
         const float sf = fit.scaleFactor;
         if (printing) {
@@ -95,6 +102,12 @@ FitResult rescaling(const LegTable &legs, const ScaleChoice &choice, float width
             fit.scaleTop = sng(std::floor(double(sf) * minY - offY));
         }
     } catch (const VbError &) {
+        if (rowsDone) {
+            try {
+                fitExtents();
+            } catch (const VbError &) {
+            }
+        }
         fit.failed = true;
         return fit;
     }
