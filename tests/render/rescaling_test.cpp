@@ -1,0 +1,112 @@
+#include <gtest/gtest.h>
+
+#include "rescaling.h"
+#include "vb_math.h"
+
+using namespace quilmar;
+
+namespace {
+
+Leg course(float direction, const char *distance, const char *tag = "")
+{
+    Leg leg;
+    leg.direction = direction;
+    leg.distance = Cell(distance);
+    leg.distanceValue = leg.distance.value();
+    leg.tag = tag;
+    return leg;
+}
+
+FitResult fit(const LegTable &legs, const std::string &scale, bool printing = false, Units units = Units::Feet)
+{
+    TraverseState state;
+    GapShares shares;
+    ScaleChoice choice;
+    choice.scaleText = scale;
+    choice.units = units;
+    return rescaling(legs, choice, 7200.0f, 4800.0f, printing, 0.0f, state, shares);
+}
+
+} // namespace
+
+TEST(Rescaling, LevelFactors)
+{
+    struct Case { const char *text; double factor; };
+    const Case cases[] = {{"Minimum", 0.36}, {"small", 0.48}, {" STANDARD ", 0.72}, {"Maximum", 0.96},
+                          {" 200", 0.72}, {"1000:1", 0.72}, {"Custom", 0.72}, {"", 0.72}};
+    for (const Case &c : cases)
+        EXPECT_EQ(levelFactor(c.text), c.factor) << c.text;
+}
+
+TEST(Rescaling, ScreenFit)
+{
+    // East 100: extY is taken as 1, fx = 7200 / 100 = 72, fy = 4800: 72 * 0.72.
+    const LegTable east{course(0.0f, "100")};
+    FitResult f = fit(east, "Standard");
+    EXPECT_FLOAT_EQ(f.scaleFactor, 51.84f);
+    // Centred: offX = (7200 - 5184) / 2 = 1008, offY = (4800 - 51.84) / 2 = 2374.08.
+    EXPECT_FLOAT_EQ(f.scaleLeft, -1008.0f);
+    EXPECT_FLOAT_EQ(f.scaleTop, -2375.0f); // Int rounds toward minus infinity
+    EXPECT_FALSE(f.failed);
+    // On the screen a numeric scale does not change the fit.
+    EXPECT_FLOAT_EQ(fit(east, " 200").scaleFactor, 51.84f);
+}
+
+TEST(Rescaling, PrintingBranch)
+{
+    const LegTable east{course(0.0f, "100")};
+    EXPECT_FLOAT_EQ(fit(east, "1000:1", true, Units::Feet).scaleFactor, 1.44f);  // 1440 / 1000
+    EXPECT_FLOAT_EQ(fit(east, " 200", true, Units::Meters).scaleFactor, 2.88f); // 576 / 200
+    EXPECT_FLOAT_EQ(fit(east, " 200", true, Units::Other).scaleFactor, 103.68f); // doubled
+    EXPECT_FLOAT_EQ(fit(east, "Standard", true).scaleFactor, 103.68f);
+    // Centred on twice the canvas: offX = (14400 - 10368) / 2.
+    EXPECT_FLOAT_EQ(fit(east, "Standard", true).scaleLeft, -2016.0f);
+}
+
+TEST(Rescaling, CloseReturnsToTheBeginningAndNewLotToTheOrigin)
+{
+    // South 100 to an origin, east 300 tagged "C" back to the origin-beginning,
+    // then "N" and west 50: extents x -50..300, y 0..100.
+    const LegTable legs{course(90.0f, "100", "O"), course(0.0f, "300", "C"), course(0.0f, "", "N"),
+                        course(180.0f, "50")};
+    FitResult f = fit(legs, "Maximum");
+    EXPECT_NEAR(f.scaleFactor, 7200.0 / 350.0 * 0.96, 1e-4);
+}
+
+TEST(Rescaling, BalanceSharesSpreadTheGapOverStraightLegs)
+{
+    TraverseState state;
+    GapShares shares{9, 9, 9};
+    ScaleChoice choice;
+    const LegTable legs{course(0.0f, "100"), course(90.0f, "50")};
+    FitResult f = rescaling(legs, choice, 7200, 4800, false, 0, state, shares);
+    EXPECT_EQ(shares.legCount, 2);
+    EXPECT_NEAR(shares.x, 100.0 * f.scaleFactor / 2, 1e-3);
+    EXPECT_NEAR(shares.y, 50.0 * f.scaleFactor / 2, 1e-3);
+    // No straight leg: the shares keep their values, without a message.
+    GapShares kept{9, 9, 9};
+    rescaling(LegTable{}, choice, 7200, 4800, false, 0, state, kept);
+    EXPECT_EQ(kept.legCount, 9);
+}
+
+TEST(Rescaling, AutoScaleCaption)
+{
+    ScaleChoice feet;
+    EXPECT_EQ(autoScaleCaption(feet, 14.4f), "AutoScale = 50");
+    ScaleChoice metres;
+    metres.units = Units::Meters;
+    EXPECT_EQ(autoScaleCaption(metres, 14.4f), "AutoScale = 20"); // 576 / 28.8
+    EXPECT_EQ(autoScaleCaption(feet, 720.0f), "");                 // 1440 / 1440 = 1 is not above 1
+    EXPECT_THROW(autoScaleCaption(feet, 0.0f), VbError);
+}
+
+TEST(Rescaling, AFaultKeepsTheFactorReached)
+{
+    TraverseState state;
+    GapShares shares;
+    ScaleChoice choice;
+    const LegTable legs{course(0.0f, "100"), course(0.0f, "1e39")};
+    FitResult f = rescaling(legs, choice, 7200, 4800, false, 5.0f, state, shares);
+    EXPECT_TRUE(f.failed);
+    EXPECT_FLOAT_EQ(f.scaleFactor, 72.0f); // the fit of the first course, before the level factor
+}
