@@ -23,15 +23,15 @@ bool Engine::openMapFile(const std::string &path, const OpenOverrides &overrides
 
     storeRows(read.rows, m_table);
     if (read.reachedDescription) {
-        SpecSplit spec = splitSpec(read.description);
+        SpecSplit tail = splitSpec(read.description);
         int unit = 0;
         // A unit character other than 0, 1 or 2 (a damaged file) selects Feet,
         // as a file without its "*spec=" line does.
-        if (spec.found && spec.unit && *spec.unit >= '0' && *spec.unit <= '2')
-            unit = *spec.unit - '0';
+        if (tail.found && tail.unit && *tail.unit >= '0' && *tail.unit <= '2')
+            unit = *tail.unit - '0';
         metrix_Click(overrides.units ? int(*overrides.units) : unit);
-        m_scale.scaleText = overrides.scaleText ? *overrides.scaleText : spec.scale;
-        m_description = spec.description;
+        m_scale.scaleText = overrides.scaleText ? *overrides.scaleText : tail.scale;
+        m_description = tail.description;
     } else {
         if (overrides.units)
             metrix_Click(int(*overrides.units));
