@@ -12,6 +12,7 @@
 #include <string_view>
 
 #include "curve_calculator.h"
+#include "cli_options.h"
 #include "engine.h"
 #include "global_conversion.h"
 #include "map_file.h"
@@ -173,17 +174,7 @@ int runConvertCommand(const std::vector<std::string> &args, std::string &out, st
         err += "quilmar convert: " + e.description() + "\n";
         return 2;
     }
-    const std::string bytes = engine.mapFileBytes();
-    if (output.empty()) {
-        out += bytes;
-        return 0;
-    }
-    std::string problem;
-    if (!writeMapFile(output, bytes, &problem)) {
-        err += "quilmar convert: cannot write " + output + ": " + problem + "\n";
-        return 1;
-    }
-    return 0;
+    return emitMapFile("convert", engine.mapFileBytes(), output, out, err);
 }
 
 } // namespace quilmar

@@ -1,6 +1,7 @@
 #include "cli_options.h"
 
 #include "cli_commands.h"
+#include "map_file.h"
 
 #include <algorithm>
 #include <charconv>
@@ -29,6 +30,21 @@ std::string usageText()
            "  quilmar sample N [-o OUT.map]\n"
            "  quilmar calc [--json] NAME ANSWER\n"
            "  quilmar convert FROM FILE.map [-o OUT.map]\n";
+}
+
+int emitMapFile(const std::string &command, const std::string &bytes, const std::string &output, std::string &out,
+                std::string &err)
+{
+    if (output.empty()) {
+        out += bytes;
+        return 0;
+    }
+    std::string problem;
+    if (!writeMapFile(output, bytes, &problem)) {
+        err += "quilmar " + command + ": cannot write " + output + ": " + problem + "\n";
+        return 1;
+    }
+    return 0;
 }
 
 const char *unitsName(Units units)

@@ -25,6 +25,12 @@ struct MapCommandOptions {
 std::string parseMapOptions(const std::vector<std::string> &args, const std::vector<std::string> &allowed,
                             MapCommandOptions &options);
 
+/// Sends map file @p bytes to @p output, or to standard output (@p out) when no
+/// -o was given. A write failure is told on @p err under the subcommand's name.
+/// @returns the exit status: 0, or 1 when the file could not be written
+int emitMapFile(const std::string &command, const std::string &bytes, const std::string &output, std::string &out,
+                std::string &err);
+
 /// "feet", "meters" or "other" for a unit option.
 const char *unitsName(Units units);
 

@@ -4,6 +4,7 @@
 #include <charconv>
 
 #include "cli_commands.h"
+#include "cli_options.h"
 #include "engine.h"
 #include "map_file.h"
 #include "recording_prompter.h"
@@ -40,17 +41,7 @@ int runSampleCommand(const Args &args, std::string &out, std::string &err)
     engine.metrix_Click(0);
     engine.setScaleText("Standard");
     engine.loadDemoSample(n);
-    const std::string bytes = engine.mapFileBytes();
-    if (output.empty()) {
-        out += bytes;
-        return 0;
-    }
-    std::string problem;
-    if (!writeMapFile(output, bytes, &problem)) {
-        err += "quilmar sample: cannot write " + output + ": " + problem + "\n";
-        return 1;
-    }
-    return 0;
+    return emitMapFile("sample", engine.mapFileBytes(), output, out, err);
 }
 
 } // namespace quilmar

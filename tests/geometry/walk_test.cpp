@@ -40,6 +40,15 @@ template <class T> std::vector<T> itemsOf(const Figure &f)
     return out;
 }
 
+// From a bare beginning: east 100, south 100, then the closing row @p close.
+Walked corner(test::Row close)
+{
+    return walk(makeTable({{"", "", "", "", "", "", "", "", "", "B"},
+                           {"E", "", "", "", "", "100", "", "", "", ""},
+                           {"S", "", "", "", "", "100", "", "", "", ""},
+                           close}));
+}
+
 } // namespace
 
 TEST(Curves, ChordAndArcCompletion)
@@ -112,12 +121,7 @@ TEST(Walk, BeginningNewLotAndOrigin)
 
 TEST(Walk, StraightCloseReturnsToTheBeginning)
 {
-    Walked w = walk(makeTable({
-        {"", "", "", "", "", "", "", "", "", "B"},
-        {"E", "", "", "", "", "100", "", "", "", ""},
-        {"S", "", "", "", "", "100", "", "", "", ""},
-        {"N", "10", "", "", "E", "999", "", "", "", "C"}, // its own bearing is not used
-    }));
+    Walked w = corner({"N", "10", "", "", "E", "999", "", "", "", "C"}); // its own bearing is not used
     EXPECT_EQ(w.state.pen, w.state.pob);
     EXPECT_NEAR(w.state.closingStart.x, 100.0f, 1e-3);
     EXPECT_NEAR(w.state.closingStart.y, 100.0f, 1e-3);
@@ -130,24 +134,14 @@ TEST(Walk, CurvedCloseAndCannotClose)
 {
     // Closing from (100, 100) to (0, 0) on radius 100 bending left cuts the
     // quarter-circle segment (7853.98 - 5000) out of the triangle's 5000.
-    Walked ok = walk(makeTable({
-        {"", "", "", "", "", "", "", "", "", "B"},
-        {"E", "", "", "", "", "100", "", "", "", ""},
-        {"S", "", "", "", "", "100", "", "", "", ""},
-        {"", "", "", "", "", "", "", "100", "L", "C"},
-    }));
+    Walked ok = corner({"", "", "", "", "", "", "", "100", "L", "C"});
     EXPECT_FALSE(ok.state.closingFlag);
     EXPECT_NEAR(ok.state.areaSum, 2146.018f, 0.01);
     EXPECT_NEAR(ok.state.perimeterSum, 357.0796, 1e-3);
     EXPECT_NEAR(ok.state.pen.x, 0.0f, 1e-3);
 
     for (const char *lr : {"L", "R"}) {
-        Walked bad = walk(makeTable({
-            {"", "", "", "", "", "", "", "", "", "B"},
-            {"E", "", "", "", "", "100", "", "", "", ""},
-            {"S", "", "", "", "", "100", "", "", "", ""},
-            {"", "", "", "", "", "", "", "50", lr, "C"},
-        }));
+        Walked bad = corner({"", "", "", "", "", "", "", "50", lr, "C"});
         EXPECT_EQ(bad.message, ""); // the walk goes on
         EXPECT_TRUE(bad.state.closingFlag);
         EXPECT_NEAR(bad.state.pen.x, 100.0f, 1e-3); // left open
