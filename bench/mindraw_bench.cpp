@@ -66,7 +66,7 @@ void BM_MindrawFullTable(benchmark::State &state)
 {
     Silent prompter;
     quilmar::Engine engine(prompter);
-    engine.metrix_Click(0);
+    engine.metrix_Click(quilmar::Units::Feet);
     fillFullTable(engine.table());
     for (auto _ : state) {
         engine.mindraw();
@@ -80,7 +80,7 @@ void BM_PaintFullTable1920x1080(benchmark::State &state)
 {
     Silent prompter;
     quilmar::Engine engine(prompter);
-    engine.metrix_Click(0);
+    engine.metrix_Click(quilmar::Units::Feet);
     engine.setCanvasSize(1920 * 15, 1080 * 15);
     fillFullTable(engine.table());
     engine.mindraw();

@@ -157,7 +157,7 @@ int runConvertCommand(const std::vector<std::string> &args, std::string &out, st
 
     RecordingPrompter prompter;
     Engine engine(prompter);
-    engine.metrix_Click(0);
+    engine.metrix_Click(Units::Feet);
     engine.setScaleText("Standard");
     if (!engine.openMapFile(input)) {
         const MapReadResult read = readMapFile(input);

@@ -38,7 +38,7 @@ int runSampleCommand(const Args &args, std::string &out, std::string &err)
     }
     RecordingPrompter prompter;
     Engine engine(prompter);
-    engine.metrix_Click(0);
+    engine.metrix_Click(Units::Feet);
     engine.setScaleText("Standard");
     engine.loadDemoSample(n);
     return emitMapFile("sample", engine.mapFileBytes(), output, out, err);

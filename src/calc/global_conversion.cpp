@@ -13,16 +13,16 @@ namespace {
 
 struct ToFeet {
     const char *unitText;
-    double factor;
+    GroundUnit unit;
 };
 
 const std::array<ToFeet, 6> kToFeet{{
-    {" Meters ", 3.281},
-    {" Chains/Links (e.g. 250 Chains, 5 Links = 250.05) ", 66},
-    {" Rods or Perches ", 16.5},
-    {" Furlongs ", 660},
-    {" Varas ", 2.7777778},
-    {" Yards ", 3},
+    {" Meters ", GroundUnit::Meters},
+    {" Chains/Links (e.g. 250 Chains, 5 Links = 250.05) ", GroundUnit::Chains},
+    {" Rods or Perches ", GroundUnit::Rods},
+    {" Furlongs ", GroundUnit::Furlongs},
+    {" Varas ", GroundUnit::Varas},
+    {" Yards ", GroundUnit::Yards},
 }};
 
 double cellValue(const Cell &cell)
@@ -42,10 +42,13 @@ GlobalConversion GlobalConversion::toFeet(int index)
     if (index < 0 || index >= static_cast<int>(kToFeet.size()))
         throw std::out_of_range("global conversion index must be 0 to 5");
     const ToFeet &t = kToFeet[static_cast<size_t>(index)];
-    return GlobalConversion(t.unitText, t.factor, false);
+    return GlobalConversion(t.unitText, groundUnitFactor(t.unit).feet, false);
 }
 
-GlobalConversion GlobalConversion::feetToMeters() { return GlobalConversion(" Feet ", 3.281, true); }
+GlobalConversion GlobalConversion::feetToMeters()
+{
+    return GlobalConversion(" Feet ", groundUnitFactor(GroundUnit::Meters).feet, true);
+}
 
 std::string GlobalConversion::question() const
 {
@@ -53,7 +56,7 @@ std::string GlobalConversion::question() const
            (m_toMeters ? "to Meters.  OK to proceed?" : "to Feet.  OK to proceed?");
 }
 
-int GlobalConversion::apply(CourseTable &table) const
+Units GlobalConversion::apply(CourseTable &table) const
 {
     const int lastRow = std::min(table.highest + 1, CourseTable::kRows - 1);
     for (int row = 0; row <= lastRow; ++row) {
@@ -66,7 +69,7 @@ int GlobalConversion::apply(CourseTable &table) const
             cell = Cell(roundEven(dbl(converted * 100)) / 100);
         }
     }
-    return m_toMeters ? kMeters : kFeet;
+    return m_toMeters ? Units::Meters : Units::Feet;
 }
 
 } // namespace quilmar

@@ -9,16 +9,14 @@
 #include <string_view>
 
 #include "course_table.h"
+#include "ground_units.h"
+#include "units.h"
 
 namespace quilmar {
 
 class GlobalConversion {
 public:
     static constexpr const char *kTitle = "Global Conversion";
-
-    /// Unit options apply() selects.
-    static constexpr int kFeet = 0;
-    static constexpr int kMeters = 1;
 
     /// A conversion to feet by its menu index: 0 metres (x 3.281), 1 chains and
     /// links (x 66), 2 rods or perches (x 16.5), 3 furlongs (x 660), 4 varas
@@ -41,13 +39,13 @@ public:
     /// other columns are untouched. A cell that already holds a number (from an
     /// earlier conversion) is converted again: nothing records that a table
     /// was converted.
-    /// @returns the unit option to select: kFeet, or kMeters for feetToMeters()
+    /// @returns the unit option to select: Feet, or Meters for feetToMeters()
     /// @throws VbError Type mismatch for a cell whose text is not wholly a
     ///         number (" 12 " is fine, "12abc" and "abc" are not), Overflow for
     ///         a value beyond double range. The conversion stops at that cell;
     ///         the cells before it keep their converted values and the unit
     ///         option is not to be changed.
-    int apply(CourseTable &table) const;
+    Units apply(CourseTable &table) const;
 
     double factor() const { return m_factor; }
 

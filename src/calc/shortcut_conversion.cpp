@@ -1,5 +1,6 @@
 #include "shortcut_conversion.h"
 
+#include "ground_units.h"
 #include "number_format.h"
 #include "typed_number.h"
 #include "vb_math.h"
@@ -9,9 +10,9 @@ namespace quilmar {
 double shortcutFactor(ShortcutConversion shortcut)
 {
     switch (shortcut) {
-    case ShortcutConversion::ChainsLinks: return 66;
-    case ShortcutConversion::PerchesRods: return 16.5;
-    case ShortcutConversion::Varas: return 2.7777778;
+    case ShortcutConversion::ChainsLinks: return groundUnitFactor(GroundUnit::Chains).feet;
+    case ShortcutConversion::PerchesRods: return groundUnitFactor(GroundUnit::Perches).feet;
+    case ShortcutConversion::Varas: return groundUnitFactor(GroundUnit::Varas).feet;
     }
     return 1;
 }

@@ -1,5 +1,6 @@
 #include "unit_converter.h"
 
+#include "ground_units.h"
 #include "number_format.h"
 #include "number_read.h"
 #include "typed_number.h"
@@ -35,20 +36,20 @@ ConverterText textOf(UnitConverter converter)
     return {"", "", ""};
 }
 
-// The factors are deliberate: 3.281 feet to the metre, and varas by division by
-// 0.36 here although the shortcut uses the rounded 2.7777778.
+// The converters compute in the ground-unit table's converter form (varas by
+// division by 0.36, although the shortcut uses the rounded 2.7777778).
 double apply(UnitConverter converter, double x)
 {
     switch (converter) {
-    case UnitConverter::Chains: return x * 66;
-    case UnitConverter::Links: return x * 66 / 100;
-    case UnitConverter::Rods: return x * 66 / 4;
-    case UnitConverter::Perches: return x * 16.5;
-    case UnitConverter::Furlongs: return x * 660;
-    case UnitConverter::Varas: return x / 0.36;
-    case UnitConverter::Yards: return x * 3;
-    case UnitConverter::FeetToMeters: return x / 3.281;
-    case UnitConverter::MetersToFeet: return x * 3.281;
+    case UnitConverter::Chains: return converterFeet(GroundUnit::Chains, x);
+    case UnitConverter::Links: return converterFeet(GroundUnit::Links, x);
+    case UnitConverter::Rods: return converterFeet(GroundUnit::Rods, x);
+    case UnitConverter::Perches: return converterFeet(GroundUnit::Perches, x);
+    case UnitConverter::Furlongs: return converterFeet(GroundUnit::Furlongs, x);
+    case UnitConverter::Varas: return converterFeet(GroundUnit::Varas, x);
+    case UnitConverter::Yards: return converterFeet(GroundUnit::Yards, x);
+    case UnitConverter::FeetToMeters: return x / groundUnitFactor(GroundUnit::Meters).feet;
+    case UnitConverter::MetersToFeet: return converterFeet(GroundUnit::Meters, x);
     }
     return x;
 }

@@ -15,7 +15,7 @@ Engine::Engine(Prompter &prompter, const StartupSettings &settings) : m_prompter
     m_scale.scaleMetric = settings.scaleMetric;
     m_printOptions = settings.printOptions;
     // A missing or non-English regional setting starts in metric mode, on purpose.
-    metrix_Click(settings.englishMeasure ? 0 : 1);
+    metrix_Click(settings.englishMeasure ? Units::Feet : Units::Meters);
 }
 
 void Engine::setCanvasSize(float widthTwips, float heightTwips)
@@ -24,10 +24,10 @@ void Engine::setCanvasSize(float widthTwips, float heightTwips)
     m_canvasHeight = heightTwips;
 }
 
-void Engine::metrix_Click(int index)
+void Engine::metrix_Click(Units units)
 {
-    m_scale.units = static_cast<Units>(index);
-    m_metricFactor = index == 1 ? 2.5f : 1.0f;
+    m_scale.units = units;
+    m_metricFactor = unitFactor(units);
 }
 
 void Engine::mindraw()

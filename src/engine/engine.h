@@ -53,8 +53,8 @@ public:
     void mnuPeri_Click();
     void mnuAcres_Click();
     void mnuHectares_Click();
-    /// Selects a unit option: "Meters" sets the unit factor 2.5, the others 1.0.
-    void metrix_Click(int index);
+    /// Selects a unit option and its unit factor (unitFactor()).
+    void metrix_Click(Units units);
     /// Opens a map file as "Open File..." does once its dialog has chosen @p path.
     /// @returns false when the file could not be read (a message was shown for a missing file)
     bool openMapFile(const std::string &path, const OpenOverrides &overrides = {});

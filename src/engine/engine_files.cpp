@@ -24,17 +24,17 @@ bool Engine::openMapFile(const std::string &path, const OpenOverrides &overrides
     storeRows(read.rows, m_table);
     if (read.reachedDescription) {
         SpecSplit tail = splitSpec(read.description);
-        int unit = 0;
         // A unit character other than 0, 1 or 2 (a damaged file) selects Feet,
-        // as a file without its "*spec=" line does.
-        if (tail.found && tail.unit && *tail.unit >= '0' && *tail.unit <= '2')
-            unit = *tail.unit - '0';
-        metrix_Click(overrides.units ? int(*overrides.units) : unit);
+        // as a file without its tail line does.
+        Units unit = Units::Feet;
+        if (tail.found && tail.unit)
+            unit = unitsFromDigit(*tail.unit).value_or(Units::Feet);
+        metrix_Click(overrides.units.value_or(unit));
         m_scale.scaleText = overrides.scaleText ? *overrides.scaleText : tail.scale;
         m_description = tail.description;
     } else {
         if (overrides.units)
-            metrix_Click(int(*overrides.units));
+            metrix_Click(*overrides.units);
         if (overrides.scaleText)
             m_scale.scaleText = *overrides.scaleText;
     }
@@ -58,7 +58,7 @@ void Engine::loadDemoSample(int n)
 
 std::string Engine::mapFileBytes() const
 {
-    return quilmar::mapFileBytes(m_table, m_description, int(m_scale.units), m_scale.scaleText);
+    return quilmar::mapFileBytes(m_table, m_description, m_scale.units, m_scale.scaleText);
 }
 
 } // namespace quilmar

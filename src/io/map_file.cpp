@@ -46,7 +46,7 @@ std::string withCrLf(const std::string &text)
 } // namespace
 
 std::string mapFileBytes(const CourseTable &table, const std::string &descriptionUtf8,
-                         int unitDigit, const std::string &scaleTextUtf8)
+                         Units units, const std::string &scaleTextUtf8)
 {
     std::string out;
     const int lastRow = std::min(table.highest + 5, CourseTable::kRows - 1);
@@ -62,7 +62,7 @@ std::string mapFileBytes(const CourseTable &table, const std::string &descriptio
     out += withCrLf(utf8ToCp1252(descriptionUtf8));
     out += "\r\n*spec=";
     // As the option buttons are read: Feet, else Meters, else Other.
-    out += unitDigit == 0 ? '0' : unitDigit == 1 ? '1' : '2';
+    out += unitDigit(units);
     out += utf8ToCp1252(scaleTextUtf8);
     out += "\r\n";
     return out;

@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "course_table.h"
+#include "units.h"
 
 namespace quilmar {
 
@@ -36,13 +37,13 @@ inline constexpr std::uintmax_t kMaxMapFileBytes = 64u * 1024u * 1024u;
 /// inside a cell would break the line apart, so each is written as a space.
 /// @param descriptionUtf8 property description; its line breaks (CR LF, lone LF
 ///        or lone CR) are all written as CR LF
-/// @param unitDigit 0 feet, 1 metres; any other value is written as "2" (other)
+/// @param units the unit option, written as its digit
 /// @param scaleTextUtf8 the scale box text as shown, e.g. "Standard" or "1200"
 /// Characters that Windows-1252 cannot hold are written as "?".
 /// @throws VbError Overflow for a number cell that is infinite or NaN (the
 ///         table's own computations never store one)
 std::string mapFileBytes(const CourseTable &table, const std::string &descriptionUtf8,
-                         int unitDigit, const std::string &scaleTextUtf8);
+                         Units units, const std::string &scaleTextUtf8);
 
 /// Writes @p bytes as the file @p path in one piece: the bytes go to a temporary
 /// file in the same folder, which then replaces @p path, so a failed write leaves

@@ -9,11 +9,10 @@
 
 #include "leg_table.h"
 #include "traverse_state.h"
+#include "units.h"
 
 namespace quilmar {
 
-/// The unit option: which unit length a numeric scale refers to.
-enum class Units : int { Feet = 0, Meters = 1, Other = 2 };
 
 /// Level factor of a scale text, compared trimmed and upper-cased:
 /// MINIMUM 0.36, SMALL 0.48, STANDARD 0.72, MAXIMUM 0.96, anything else 0.72.

@@ -36,7 +36,7 @@ TEST(GlobalConversion, ConvertingTwiceMultipliesTwice)
     CourseTable table;
     table.at(0, ColDistance) = Cell("100");
     const GlobalConversion meters = GlobalConversion::toFeet(0);
-    EXPECT_EQ(meters.apply(table), GlobalConversion::kFeet);
+    EXPECT_EQ(meters.apply(table), Units::Feet);
     EXPECT_NEAR(table.at(0, ColDistance).number(), 328.1, 1e-9);
     meters.apply(table);
     EXPECT_NEAR(table.at(0, ColDistance).number(), 1076.5, 1e-9); // 328.1 x 3.281 = 1076.4961
@@ -91,7 +91,7 @@ TEST(GlobalConversion, QuestionsAndUnits)
     EXPECT_EQ(GlobalConversion::feetToMeters().question(),
               "This function will convert the entire table from Feet to Meters.  OK to proceed?");
     CourseTable empty;
-    EXPECT_EQ(GlobalConversion::feetToMeters().apply(empty), GlobalConversion::kMeters);
+    EXPECT_EQ(GlobalConversion::feetToMeters().apply(empty), Units::Meters);
     EXPECT_THROW(GlobalConversion::toFeet(6), std::out_of_range);
 }
 

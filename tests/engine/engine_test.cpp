@@ -27,7 +27,7 @@ struct Fixture {
     Engine engine{prompter};
     explicit Fixture(std::initializer_list<Row> rows)
     {
-        engine.metrix_Click(0);
+        engine.metrix_Click(Units::Feet);
         int r = 0;
         for (const Row &row : rows) {
             for (int c = 0; c < 10; ++c)

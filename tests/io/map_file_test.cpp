@@ -50,19 +50,18 @@ protected:
 TEST(MapFileBytes, EmptyTableIsSixteenBlankLinesAndTail)
 {
     // highest 10 -> rows 0..15.
-    EXPECT_EQ(mapFileBytes(CourseTable{}, "", 0, "Standard"),
+    EXPECT_EQ(mapFileBytes(CourseTable{}, "", Units::Feet, "Standard"),
               repeat(kBlankLine, 16) + "~\r\n*spec=0Standard\r\n");
 }
 
 TEST(MapFileBytes, Tail)
 {
-    struct Case { std::string description; int unit; std::string scale; std::string tail; };
+    struct Case { std::string description; Units unit; std::string scale; std::string tail; };
     const Case cases[] = {
-        {"Lot 7", 0, "Standard", "~Lot 7\r\n*spec=0Standard\r\n"},
-        {"a\r\nb", 1, "1200", "~a\r\nb\r\n*spec=11200\r\n"},
-        {"a\nb\rc", 2, "", "~a\r\nb\r\nc\r\n*spec=2\r\n"},   // lone LF, lone CR -> CR LF
-        {"x", 7, "Standard", "~x\r\n*spec=2Standard\r\n"},   // neither Feet nor Meters
-        {"\xC3\xA9 45\xC2\xB0 \xC5\x82", 0, "1\xE2\x82\xAC", "~\xE9 45\xB0 ?\r\n*spec=01\x80\r\n"},
+        {"Lot 7", Units::Feet, "Standard", "~Lot 7\r\n*spec=0Standard\r\n"},
+        {"a\r\nb", Units::Meters, "1200", "~a\r\nb\r\n*spec=11200\r\n"},
+        {"a\nb\rc", Units::Other, "", "~a\r\nb\r\nc\r\n*spec=2\r\n"},   // lone LF, lone CR -> CR LF
+        {"\xC3\xA9 45\xC2\xB0 \xC5\x82", Units::Feet, "1\xE2\x82\xAC", "~\xE9 45\xB0 ?\r\n*spec=01\x80\r\n"},
     };
     for (const auto &c : cases) {
         const std::string bytes = mapFileBytes(CourseTable{}, c.description, c.unit, c.scale);
@@ -78,7 +77,7 @@ TEST(MapFileBytes, CellsOfOneLine)
         table.at(0, col) = texts[col - 1];
     table.at(0, ColDistance) = 328.1;           // a number cell, as global conversion leaves it
     table.at(0, ColRadius) = "a\tb\xC3\xA9";    // TAB would split the line: written as a space
-    const std::string bytes = mapFileBytes(table, "", 0, "Standard");
+    const std::string bytes = mapFileBytes(table, "", Units::Feet, "Standard");
     EXPECT_EQ(bytes.substr(0, bytes.find("\r\n")), "N\t12\t30\t0\tE\t328.1\t\ta b\xE9\t\tB");
 }
 
@@ -89,7 +88,7 @@ TEST(MapFileBytes, CourseLinesEndAtHighestPlusFiveClippedAtRow201)
     for (const auto &[highest, lines] : highestAndLines) {
         CourseTable table;
         table.highest = static_cast<int16_t>(highest);
-        const std::string bytes = mapFileBytes(table, "", 0, "Standard");
+        const std::string bytes = mapFileBytes(table, "", Units::Feet, "Standard");
         EXPECT_EQ(bytes, repeat(kBlankLine, lines) + "~\r\n*spec=0Standard\r\n") << highest;
     }
 }
@@ -104,7 +103,7 @@ TEST_F(MapFileTest, RoundTripThroughWindows1252)
     table.at(30, ColRadius) = "500";
     table.gethighest();                         // 31 -> rows 0..36
     const std::string path = (m_dir / "deed.map").string();
-    ASSERT_TRUE(writeMapFile(path, mapFileBytes(table, "Lot 7\nWest", 1, "1200"), nullptr));
+    ASSERT_TRUE(writeMapFile(path, mapFileBytes(table, "Lot 7\nWest", Units::Meters, "1200"), nullptr));
 
     const MapReadResult read = readMapFile(path);
     ASSERT_EQ(read.status, MapReadStatus::Ok);
@@ -127,7 +126,7 @@ TEST_F(MapFileTest, EachSaveAndOpenAddsOneTrailingLineBreak)
     std::string description = "Lot 7";
     const std::string path = (m_dir / "deed.map").string();
     for (const std::string expected : {"Lot 7\r\n", "Lot 7\r\n\r\n", "Lot 7\r\n\r\n\r\n"}) {
-        ASSERT_TRUE(writeMapFile(path, mapFileBytes(CourseTable{}, description, 0, "Standard"), nullptr));
+        ASSERT_TRUE(writeMapFile(path, mapFileBytes(CourseTable{}, description, Units::Feet, "Standard"), nullptr));
         description = splitSpec(readMapFile(path).description).description;
         EXPECT_EQ(description, expected);
     }

@@ -1,0 +1,36 @@
+#include "demo_samples.h"
+
+#include <stdexcept>
+
+#include <gtest/gtest.h>
+
+namespace quilmar {
+namespace {
+
+TEST(DemoSamples, OnlyOneToSix)
+{
+    EXPECT_THROW(demoSample(0), std::out_of_range);
+    EXPECT_THROW(demoSample(7), std::out_of_range);
+}
+
+// Guards against a sample loaded over a longer table keeping the old rows.
+TEST(DemoSamples, LoadingOverALongTableLeavesNoTrace)
+{
+    CourseTable table;
+    for (int row = 0; row < CourseTable::kRows; ++row)
+        for (int col = 1; col <= CourseTable::kColumns; ++col)
+            table.at(row, col) = Cell(12.5);
+    table.gethighest();
+    loadDemoRows(demoSample(6), table);
+
+    CourseTable fresh;
+    loadDemoRows(demoSample(6), fresh);
+    for (int row = 0; row < CourseTable::kRows; ++row)
+        for (int col = 1; col <= CourseTable::kColumns; ++col)
+            ASSERT_EQ(table.at(row, col), fresh.at(row, col)) << row << "," << col;
+    EXPECT_EQ(table.highest, fresh.highest); // the old row count is gone too
+    EXPECT_LT(table.highest, 11);
+}
+
+} // namespace
+} // namespace quilmar
