@@ -67,9 +67,9 @@ void BM_MindrawFullTable(benchmark::State &state)
     Silent prompter;
     quilmar::Engine engine(prompter);
     engine.metrix_Click(quilmar::Units::Feet);
-    fillFullTable(engine.table());
+    fillFullTable(engine.editTable());
     for (auto _ : state) {
-        engine.mindraw();
+        engine.mindraw({});
         benchmark::DoNotOptimize(engine.figure().items.data());
     }
     state.counters["items"] = double(engine.figure().items.size());
@@ -82,11 +82,10 @@ void BM_PaintFullTable1920x1080(benchmark::State &state)
     quilmar::Engine engine(prompter);
     engine.metrix_Click(quilmar::Units::Feet);
     engine.setCanvasSize(1920 * 15, 1080 * 15);
-    fillFullTable(engine.table());
-    engine.mindraw();
+    fillFullTable(engine.editTable());
+    engine.mindraw({});
     for (auto _ : state) {
-        QImage image = quilmar::renderFigureImage(engine.figure(), engine.scaleLeft(), engine.scaleTop(), 1920 * 15,
-                                                  1080 * 15, quilmar::kCanvasGrey);
+        QImage image = quilmar::renderFigureImage(engine.figure(), engine.canvasView(), quilmar::kCanvasGrey);
         benchmark::DoNotOptimize(image.constBits());
     }
 }

@@ -159,17 +159,16 @@ int runConvertCommand(const std::vector<std::string> &args, std::string &out, st
     Engine engine(prompter);
     engine.metrix_Click(Units::Feet);
     engine.setScaleText("Standard");
-    if (!engine.openMapFile(input)) {
-        const MapReadResult read = readMapFile(input);
+    if (const OpenOutcome opened = engine.openMapFile(input); !opened.ok()) {
         err += "quilmar convert: " +
-               (read.status == MapReadStatus::NotFound ? read.message : "cannot read " + input + ": " + read.message) +
+               (opened.status == MapReadStatus::NotFound ? opened.reason : "cannot read " + input + ": " + opened.reason) +
                "\n";
         return 1;
     }
     // Messages of the drawing that follows an open do not concern the conversion.
     prompter.take();
     try {
-        engine.metrix_Click(conversion->apply(engine.table()));
+        engine.metrix_Click(conversion->apply(engine.editTable()));
     } catch (const VbError &e) {
         err += "quilmar convert: " + e.description() + "\n";
         return 2;

@@ -31,7 +31,7 @@ int runCalcCommand(const std::vector<std::string> &args, std::string &out, std::
 /// feet: to metres) as if the question were answered Yes, selects the unit it
 /// selects, and writes the map file that "Save As..." would write: to OUT.map,
 /// or to @p out without -o. As with the window, opening keeps the line break
-/// before "*spec=" in the description, so the description gains one trailing
+/// before the tail line in the description, so the description gains one trailing
 /// line break.
 /// @returns 0 on success; 1 with a reason on @p err for bad arguments or a file
 ///          that cannot be read or written; 2 with the fault's text (e.g.

@@ -56,7 +56,7 @@ int runPlotCommand(const Args &args, std::string &out, std::string &err)
     RecordingPrompter prompter;
     Engine engine(prompter);
     engine.setCanvasSize(options.canvasWidth, options.canvasHeight);
-    if (!engine.openMapFile(options.file, options.overrides)) {
+    if (!engine.openMapFile(options.file, options.overrides).ok()) {
         for (const std::string &m : prompter.take())
             err += m + "\n";
         err += "quilmar plot: cannot read the map file " + options.file + "\n";
@@ -65,9 +65,8 @@ int runPlotCommand(const Args &args, std::string &out, std::string &err)
     for (const std::string &m : prompter.take())
         err += "! " + m + "\n";
     const QString path = QString::fromStdString(options.output);
-    const int w = int(options.canvasWidth), h = int(options.canvasHeight);
-    const bool written = svg ? writeFigureSvg(path, engine.figure(), engine.scaleLeft(), engine.scaleTop(), w, h, kCanvasGrey)
-                             : writeFigurePng(path, engine.figure(), engine.scaleLeft(), engine.scaleTop(), w, h, kCanvasGrey);
+    const bool written = svg ? writeFigureSvg(path, engine.figure(), engine.canvasView(), kCanvasGrey)
+                             : writeFigurePng(path, engine.figure(), engine.canvasView(), kCanvasGrey);
     if (!written) {
         err += "quilmar plot: cannot write " + options.output + "\n";
         return 1;

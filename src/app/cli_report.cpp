@@ -32,17 +32,8 @@ QJsonValue singleJson(float v)
     return d;
 }
 
-QJsonValue cellJson(const Cell &cell)
-{
-    try {
-        if (cell.isNumber())
-            return cell.number();
-        const double v = cell.value();
-        return std::isfinite(v) ? QJsonValue(v) : QJsonValue();
-    } catch (const VbError &) {
-        return QJsonValue();
-    }
-}
+// A leg's length; null for a number beyond range.
+QJsonValue lengthJson(double v) { return std::isfinite(v) ? QJsonValue(v) : QJsonValue(); }
 
 QJsonValue groundPoint(PointF p, float scaleFactor)
 {
@@ -67,11 +58,12 @@ QJsonArray legsJson(const Engine &engine)
         o["row"] = int(row);
         o["course"] = leg.course;
         o["direction"] = leg.direction ? singleJson(*leg.direction) : QJsonValue();
-        o["distance"] = cellJson(leg.distance);
-        o["chord"] = cellJson(leg.chord);
-        o["radius"] = cellJson(leg.radius);
-        o["lr"] = qs(leg.lr);
-        o["tag"] = qs(leg.tag);
+        o["distance"] = lengthJson(leg.distance);
+        o["chord"] = lengthJson(leg.chord);
+        o["radius"] = lengthJson(leg.radius);
+        // The L/R code and the tag as typed, from the table the legs came from.
+        o["lr"] = leg.cellsRead ? qs(engine.table().at(int(row), ColLR).text()) : QString();
+        o["tag"] = leg.cellsRead ? qs(engine.table().at(int(row), ColTag).text()) : QString();
         legs.append(o);
     }
     return legs;
@@ -92,7 +84,7 @@ int runReportCommand(const Args &args, std::string &out, std::string &err)
     engine.setCanvasSize(options.canvasWidth, options.canvasHeight);
 
     std::vector<CommandRecord> records;
-    const bool opened = engine.openMapFile(options.file, options.overrides);
+    const bool opened = engine.openMapFile(options.file, options.overrides).ok();
     records.push_back({"open", engine.acresbox(), prompter.take()});
     if (!opened) {
         for (const std::string &m : records.back().messages)

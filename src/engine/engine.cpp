@@ -6,6 +6,7 @@
 #include "number_format.h"
 #include "vb_math.h"
 #include "walk.h"
+#include "units.h"
 
 namespace quilmar {
 
@@ -22,6 +23,8 @@ void Engine::setCanvasSize(float widthTwips, float heightTwips)
 {
     m_canvasWidth = widthTwips;
     m_canvasHeight = heightTwips;
+    m_draw.view.width = widthTwips;
+    m_draw.view.height = heightTwips;
 }
 
 void Engine::metrix_Click(Units units)
@@ -30,67 +33,76 @@ void Engine::metrix_Click(Units units)
     m_metricFactor = unitFactor(units);
 }
 
-void Engine::mindraw()
+const DrawResult &Engine::mindraw(const DrawRequest &request)
 {
-    if (m_state.skipOnce) {
-        m_state.skipOnce = false;
-        return;
+    if (m_skipOnce) {
+        m_skipOnce = false;
+        return m_draw;
     }
     m_mapComputed = true;
+    m_state.areaMode = request.areaMode;
+    m_state.perimeterMode = request.perimeterMode;
+    m_draw.error.reset();
     try {
         m_state.closingFlag = false;
         m_state.closingStart = {};
         convertCourses(m_table, m_legs, [this](const std::string &text) { showError(text); });
 
-        FitResult fit = rescaling(m_legs, m_scale, m_canvasWidth, m_canvasHeight, m_printing, m_scaleFactor,
+        FitResult fit = rescaling(m_legs, m_scale, m_canvasWidth, m_canvasHeight, request.printing, m_scaleFactor,
                                   m_state, m_shares);
         m_scaleFactor = fit.scaleFactor;
         if (fit.failed) {
-            showError("Error in rescaling");
+            showError("Error in rescaling"); // the canvas keeps its scale origin
         } else {
-            m_fit = fit;
+            m_draw.view.scaleLeft = fit.scaleLeft;
+            m_draw.view.scaleTop = fit.scaleTop;
         }
-        m_fit.scaleFactor = m_scaleFactor;
 
         m_state.origin = {};
         m_acresbox.clear();
-        m_figure.clear();
+        m_draw.figure.clear();
         m_state.canvas = {};
         m_state.pen = {};
 
         WalkOptions options;
         options.scaleFactor = m_scaleFactor;
-        options.printing = m_printing;
+        options.printing = request.printing;
         options.referencePoints = m_printOptions.referencePoints == 1;
         options.balanceGap = m_printOptions.balanceGap == 1;
         options.shares = m_shares;
-        std::string message = walkCourses(m_legs, options, m_state, m_figure);
-        if (message.empty() && !m_printing) {
+        const WalkStop stop = walkCourses(m_legs, options, m_state, m_draw.figure);
+        const char *message = walkStopMessage(stop);
+        if (stop == WalkStop::None && !request.printing) {
             try {
                 if (m_metricFactor == 0.0f)
                     m_metricFactor = 1.0f;
                 m_autoscalebox = autoScaleCaption(m_scale, m_scaleFactor);
             } catch (const VbError &) {
-                message = "Error in drawing map (drawmap)";
+                message = walkStopMessage(WalkStop::DrawFault);
             }
         }
-        if (!message.empty()) {
+        if (*message) {
             showError(message);
-            m_state.errorFlag = true;
+            m_draw.error = message;
         } else {
             markEnd();
         }
         buildAreaTexts();
     } catch (const VbError &e) {
-        showError(std::to_string(e.number()) + ".  Error drawing map (mindraw)");
-        m_state.errorFlag = true;
+        m_draw.error = std::to_string(e.number()) + ".  Error drawing map (mindraw)";
+        showError(*m_draw.error);
     }
+    m_draw.areaSum = m_state.areaSum;
+    m_draw.perimeterSum = m_state.perimeterSum;
+    return m_draw;
 }
+
+const DrawResult &Engine::redraw() { return mindraw({.perimeterMode = m_perimeterModeLeftOn}); }
 
 void Engine::markEnd()
 {
     const PointF at{m_state.pen.x - 36.0f, m_state.pen.y - 112.0f};
-    m_figure.items.push_back({FigText{at, 0, "x"}, Palette::Red, Target::Screen});
+    m_draw.figure.items.push_back({FigText{at, 0, "x"}, Palette::Red, Target::Screen});
     m_state.canvas = m_state.pen;
 }
 

@@ -5,16 +5,40 @@
 //
 // Data flow: CourseTable --convertCourses--> LegTable --rescaling--> scale factor
 // and canvas origin --walkCourses--> Figure (painted by render) + sums and state.
+//
+// How to use it (what the window and the command line call):
+// - Every command that needs the geometry calls `mindraw(DrawRequest)`, the one
+//   drawing routine. The request says what this draw is for (area mode,
+//   perimeter mode, printing); the result (`DrawResult`: figure, canvas view,
+//   sums, the error that ended it) is kept as `lastDraw()` until the next draw.
+//   The commands (`redraw`, `mnuGap_Click`, `mnuPeri_Click`, `mnuAcres_Click`,
+//   `mnuHectares_Click`, `openMapFile`, `loadDemoSample`) build the request
+//   themselves; the window's printout will call `mindraw({.printing = true})`.
+// - The grid edits the course table through ONE entry: `editTable()`. The
+//   grid's rules (keystrokes, insert/delete/clear rows, the tag menu) and the
+//   global conversion work on that reference; nothing else hands the table out
+//   for writing.
+// - The few other settable things are the window's own fields and options:
+//   the result line (`setAcresbox`), the property description
+//   (`setDescription`), the scale box (`setScaleText`), the unit option
+//   (`metrix_Click`), the print options (`setPrintOptions`), the canvas size
+//   (`setCanvasSize`) and the start-up's skip-once flag (`skipNextDraw`).
+// - `openMapFile` returns an `OpenOutcome`: Ok, NotFound (its message was
+//   shown, as the window does) or Failed with the reader's reason.
+// - `mapComputed()` is the File menu's flag: set by every `mindraw` that ran.
 
 #include <optional>
 #include <string>
 
+#include "canvas_view.h"
 #include "course_table.h"
 #include "figure.h"
 #include "leg_table.h"
+#include "map_file.h"
 #include "prompter.h"
 #include "rescaling.h"
 #include "traverse_state.h"
+#include "units.h"
 
 namespace quilmar {
 
@@ -42,55 +66,90 @@ struct OpenOverrides {
     std::optional<std::string> scaleText;
 };
 
+/// What one call of mindraw is for.
+struct DrawRequest {
+    bool areaMode = false;      ///< add up the area (Calculate Acres, Calculate Hectares)
+    bool perimeterMode = false; ///< add up the perimeter (Calculate Gap, Calculate Perimeter)
+    bool printing = false;      ///< the map printout draws: legs to both devices, the printout's scale
+};
+
+/// What one call of mindraw did.
+struct DrawResult {
+    Figure figure;            ///< what the walk drew, drawing units (twips)
+    CanvasView view;          ///< the canvas's scale origin and size for the figure
+    float areaSum = 0.0f;     ///< signed shoelace sum, square drawing units (area mode)
+    double perimeterSum = 0.0; ///< drawing units (perimeter mode)
+    /// The error that ended the draw (already shown): the walk's message or
+    /// "N.  Error drawing map (mindraw)"; nullopt when the draw went through.
+    std::optional<std::string> error;
+};
+
+/// How opening a map file went.
+struct OpenOutcome {
+    MapReadStatus status = MapReadStatus::Failed;
+    /// NotFound: the message shown ("File ... not found."); Failed: the reader's
+    /// one-line reason (not shown); Ok: empty.
+    std::string reason;
+    bool ok() const { return status == MapReadStatus::Ok; }
+};
+
 class Engine {
 public:
     explicit Engine(Prompter &prompter, const StartupSettings &settings = {});
 
     // --- commands --------------------------------------------------------------
-    /// Converts the table, fits the map, walks it into `figure()` and builds the area texts.
-    void mindraw();
+    /// Converts the table, fits the map, walks it into the figure and builds the
+    /// area texts; every message box on the way goes through the Prompter.
+    /// Skipped (the last result stays) once after skipNextDraw().
+    const DrawResult &mindraw(const DrawRequest &request);
+    /// "Re-draw Map (F8)": mindraw with the perimeter mode Calculate Gap left on.
+    const DrawResult &redraw();
     void mnuGap_Click();
     void mnuPeri_Click();
     void mnuAcres_Click();
     void mnuHectares_Click();
     /// Selects a unit option and its unit factor (unitFactor()).
     void metrix_Click(Units units);
-    /// Opens a map file as "Open File..." does once its dialog has chosen @p path.
-    /// @returns false when the file could not be read (a message was shown for a missing file)
-    bool openMapFile(const std::string &path, const OpenOverrides &overrides = {});
+    /// Opens a map file as "Open File..." does once its dialog has chosen @p path,
+    /// and draws it. A missing file shows "File ... not found."; other failures
+    /// show nothing. On failure the table is left as it was.
+    OpenOutcome openMapFile(const std::string &path, const OpenOverrides &overrides = {});
     /// Replaces the table with demo sample @p n (1 to 6) and draws it.
     void loadDemoSample(int n);
     /// The map file bytes that "Save As..." writes now.
     std::string mapFileBytes() const;
 
-    // --- state ---------------------------------------------------------------
-    CourseTable &table() { return m_table; }
+    // --- reading -------------------------------------------------------------------
     const CourseTable &table() const { return m_table; }
     const LegTable &legs() const { return m_legs; }
     const TraverseState &state() const { return m_state; }
-    TraverseState &state() { return m_state; }
-    const Figure &figure() const { return m_figure; }
+    const DrawResult &lastDraw() const { return m_draw; }
+    const Figure &figure() const { return m_draw.figure; }
+    CanvasView canvasView() const { return m_draw.view; }
     float scaleFactor() const { return m_scaleFactor; }
-    float scaleLeft() const { return m_fit.scaleLeft; }
-    float scaleTop() const { return m_fit.scaleTop; }
     const std::string &acresbox() const { return m_acresbox; }
-    void setAcresbox(std::string text) { m_acresbox = std::move(text); }
     const std::string &autoscalebox() const { return m_autoscalebox; }
     const std::string &description() const { return m_description; }
-    void setDescription(std::string text) { m_description = std::move(text); }
     const std::string &scaleText() const { return m_scale.scaleText; }
-    void setScaleText(std::string text) { m_scale.scaleText = std::move(text); }
     Units units() const { return m_scale.units; }
     float metricFactor() const { return m_metricFactor; }
-    void setCanvasSize(float widthTwips, float heightTwips);
-    float canvasWidth() const { return m_canvasWidth; }
-    float canvasHeight() const { return m_canvasHeight; }
-    bool printingMapFlag() const { return m_printing; }
-    void setPrintingMapFlag(bool on) { m_printing = on; }
-    PrintOptions &printOptions() { return m_printOptions; }
+    const PrintOptions &printOptions() const { return m_printOptions; }
+    /// The File menu's flag: true once any mindraw has computed a map.
     bool mapComputed() const { return m_mapComputed; }
     const std::string &imperialText() const { return m_imperialText; }
     const std::string &metricText() const { return m_metricText; }
+
+    // --- the window's entries --------------------------------------------------------
+    /// The one entry through which the grid (and the global conversion) edit the table.
+    CourseTable &editTable() { return m_table; }
+    void setAcresbox(std::string text) { m_acresbox = std::move(text); }
+    void setDescription(std::string text) { m_description = std::move(text); }
+    void setScaleText(std::string text) { m_scale.scaleText = std::move(text); }
+    void setPrintOptions(const PrintOptions &options) { m_printOptions = options; }
+    /// The map canvas's size in twips; the next draw fits the map to it.
+    void setCanvasSize(float widthTwips, float heightTwips);
+    /// Makes the next mindraw do nothing (start-up selects the scale without drawing).
+    void skipNextDraw() { m_skipOnce = true; }
 
 private:
     void showError(const std::string &text) { m_prompter.exclaim(text); }
@@ -103,15 +162,17 @@ private:
     LegTable m_legs;
     TraverseState m_state;
     GapShares m_shares;
-    Figure m_figure;
-    FitResult m_fit;
+    DrawResult m_draw;
     ScaleChoice m_scale;
     PrintOptions m_printOptions;
     float m_scaleFactor = 0.0f;
     float m_metricFactor = 2.5f;
     float m_canvasWidth = 7200.0f;
     float m_canvasHeight = 4800.0f;
-    bool m_printing = false;
+    /// Deliberate: Calculate Gap leaves the perimeter mode on for the draws that
+    /// follow (only Calculate Perimeter turns it off); nothing shows that sum.
+    bool m_perimeterModeLeftOn = false;
+    bool m_skipOnce = false;
     bool m_mapComputed = false;
     std::string m_acresbox;
     std::string m_autoscalebox;

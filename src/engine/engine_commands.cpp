@@ -37,8 +37,8 @@ void Engine::mnuGap_Click()
 {
     try {
         m_state.perimeterSum = 0.0;
-        m_state.perimeterMode = true;
-        mindraw();
+        m_perimeterModeLeftOn = true;
+        mindraw({.perimeterMode = true});
         const double perimeter = fdiv(m_state.perimeterSum, m_scaleFactor);
         const PointF from = (m_state.closingStart.x != 0.0f || m_state.closingStart.y != 0.0f) ? m_state.closingStart
                                                                                                 : m_state.pen;
@@ -68,10 +68,10 @@ void Engine::mnuPeri_Click()
 {
     try {
         m_state.perimeterSum = 0.0;
-        m_state.perimeterMode = true;
-        mindraw();
+        m_perimeterModeLeftOn = true;
+        mindraw({.perimeterMode = true});
         m_acresbox = "Perimeter = " + formatNumber(fdiv(m_state.perimeterSum, m_scaleFactor), "standard");
-        m_state.perimeterMode = false;
+        m_perimeterModeLeftOn = false;
     } catch (const VbError &e) {
         showError(e.description());
     }
@@ -98,10 +98,8 @@ void Engine::mnuAcres_Click()
         if (areaGapTooLarge(false))
             return;
         m_imperialText.clear();
-        m_state.areaMode = true;
-        mindraw();
+        mindraw({.areaMode = true, .perimeterMode = m_perimeterModeLeftOn});
         m_acresbox = m_imperialText;
-        m_state.areaMode = false;
     } catch (const VbError &e) {
         showError(e.description());
     }
@@ -113,10 +111,8 @@ void Engine::mnuHectares_Click()
         if (areaGapTooLarge(true))
             return;
         m_metricText.clear();
-        m_state.areaMode = true;
-        mindraw();
+        mindraw({.areaMode = true, .perimeterMode = m_perimeterModeLeftOn});
         m_acresbox = m_metricText;
-        m_state.areaMode = false;
     } catch (const VbError &e) {
         showError(e.description());
     }

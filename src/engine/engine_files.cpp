@@ -6,24 +6,22 @@
 
 namespace quilmar {
 
-bool Engine::openMapFile(const std::string &path, const OpenOverrides &overrides)
+OpenOutcome Engine::openMapFile(const std::string &path, const OpenOverrides &overrides)
 {
     m_description.clear();
     m_acresbox.clear();
     m_autoscalebox.clear();
-    m_figure.clear();
+    m_draw.figure.clear();
 
     MapReadResult read = readMapFile(path);
-    if (read.status == MapReadStatus::NotFound) {
+    if (read.status == MapReadStatus::NotFound)
         showError(read.message);
-        return false;
-    }
     if (read.status != MapReadStatus::Ok)
-        return false;
+        return {read.status, std::move(read.message)};
 
     storeRows(read.rows, m_table);
     if (read.reachedDescription) {
-        SpecSplit tail = splitSpec(read.description);
+        TailSplit tail = splitTail(read.description);
         // A unit character other than 0, 1 or 2 (a damaged file) selects Feet,
         // as a file without its tail line does.
         Units unit = Units::Feet;
@@ -39,8 +37,8 @@ bool Engine::openMapFile(const std::string &path, const OpenOverrides &overrides
             m_scale.scaleText = *overrides.scaleText;
     }
     m_table.gethighest();
-    mindraw();
-    return true;
+    redraw();
+    return {MapReadStatus::Ok, {}};
 }
 
 void Engine::loadDemoSample(int n)
@@ -49,11 +47,11 @@ void Engine::loadDemoSample(int n)
     m_table.erase();
     m_acresbox.clear();
     m_autoscalebox.clear();
-    m_figure.clear();
+    m_draw.figure.clear();
     m_description = sample.note;
     loadDemoRows(sample, m_table);
     m_table.gethighest();
-    mindraw();
+    redraw();
 }
 
 std::string Engine::mapFileBytes() const

@@ -4,7 +4,6 @@
 
 #include "area.h"
 #include "curves.h"
-#include "number_read.h"
 #include "vb_math.h"
 #include "walk_marks.h"
 
@@ -51,27 +50,27 @@ void closeStraight(int label, const WalkOptions &options, TraverseState &state, 
     state.canvas = state.pob;
 }
 
-std::string closeCurved(int label, const WalkOptions &options, TraverseState &state, Figure &figure)
+// The message of a curved close that failed, or nullptr when it succeeded.
+const char *closeCurved(int label, const WalkOptions &options, TraverseState &state, Figure &figure)
 {
     const double dx = double(state.pob.x) - state.pen.x;
     const double dy = double(state.pob.y) - state.pen.y;
     const float chord = sng(std::sqrt(dx * dx + dy * dy));
-    const double direction = chordDirection(dx, dy);
-    const double radians = direction * kPi / 180.0;
+    const ChordDirection direction = ChordDirection::of(chordDirection(dx, dy) * kPi / 180.0);
     if (state.areaMode)
-        addShoelaceStep(state.areaPoint, state.areaSum, sng(chord * std::cos(radians)), sng(chord * std::sin(radians)));
-    const bool right = std::string(trimBlanks(state.closingLR)) == "R";
+        addShoelaceStep(state.areaPoint, state.areaSum, sng(chord * direction.cosine), sng(chord * direction.sine));
+    const bool right = state.closingSide == CurveSide::Right;
     Figure arc;
     CurveSink sink{&arc, legTarget(options), state.areaMode, state.perimeterMode, &state.areaSum, &state.perimeterSum};
     PointF pen = state.pen;
-    if (!traceCurve(right, pen, radians, state.closingRadius, chord, sink).empty())
-        return right ? "Error int curve" : "Error in curve";
-    addReferenceLabel(figure, options, state.canvas, label, chord * std::cos(radians), chord * std::sin(radians));
+    if (traceCurve(right, pen, direction, state.closingRadius, chord, sink) == CurveOutcome::Fault)
+        return right ? "Error int curve" : "Error in curve"; // deliberate: the right-hand text has always been so
+    addReferenceLabel(figure, options, state.canvas, label, chord * direction.cosine, chord * direction.sine);
     figure.items.insert(figure.items.end(), arc.items.begin(), arc.items.end());
     state.pen = pen;
     state.canvas = pen;
     state.closingFlag = false;
-    return {};
+    return nullptr;
 }
 
 } // namespace
@@ -79,7 +78,7 @@ std::string closeCurved(int label, const WalkOptions &options, TraverseState &st
 void closingLeg(int label, const WalkOptions &options, TraverseState &state, Figure &figure)
 {
     state.closingStart = state.pen;
-    std::string message;
+    const char *message = nullptr;
     try {
         if (state.closingRadius == 0.0f)
             closeStraight(label, options, state, figure);
@@ -88,7 +87,7 @@ void closingLeg(int label, const WalkOptions &options, TraverseState &state, Fig
     } catch (const VbError &) {
         message = "Error in closing leg.  Review radius, etc.";
     }
-    if (!message.empty())
+    if (message)
         addCannotClose(figure, state, message);
 }
 

@@ -4,12 +4,12 @@
 
 #include "figure.h"
 #include "traverse_state.h"
-#include "walk.h"
+#include "walk_options.h"
 
 namespace quilmar {
 
 /// Closes from the pen point to the point of beginning with the closing radius
-/// and L/R code held in @p state (radius in drawing units; 0 closes straight).
+/// and curve side held in @p state (radius in drawing units; 0 closes straight).
 /// Records the closing-leg start; on success the pen is at the point of
 /// beginning and the closing flag is cleared. On failure nothing is drawn but
 /// "CANNOT CLOSE." and one of "Error in curve", "Error int curve" or

@@ -1,5 +1,8 @@
 #include "course_conversion.h"
 
+#include <cmath>
+#include <limits>
+
 #include "curves.h"
 #include "number_read.h"
 #include "vb_math.h"
@@ -8,18 +11,49 @@ namespace quilmar {
 
 namespace {
 
-// The direction a quadrant bearing gives; any other code leaves the angle as it is.
-float quadrantDirection(const std::string &code, float angle)
+// The bearing code of a row: its N/S and E/W cells taken together, as typed.
+enum class Code : uint8_t { NE, NW, SE, SW, TurnRight, TurnLeft, Blank, Other };
+
+// True when a + b (not built) equals @p text.
+bool joinedEquals(std::string_view a, std::string_view b, std::string_view text)
 {
-    if (code == "NE" || code == "N")
-        return sng(angle - 90.0);
-    if (code == "NW")
-        return sng(-double(angle) - 90.0);
-    if (code == "SE" || code == "S")
-        return sng(90.0 - angle);
-    if (code == "SW")
-        return sng(angle + 90.0);
-    return angle;
+    return a.size() + b.size() == text.size() && text.substr(0, a.size()) == a && text.substr(a.size()) == b;
+}
+
+// The code of N/S + E/W. "N" and "S" alone count as "NE" and "SE"; "+" and "-"
+// (blanks around them aside) turn from the running direction; all blanks is a
+// tangent course; anything else keeps the typed angle as the direction.
+Code readCode(std::string_view ns, std::string_view ew)
+{
+    if (joinedEquals(ns, ew, "NE") || joinedEquals(ns, ew, "N"))
+        return Code::NE;
+    if (joinedEquals(ns, ew, "NW"))
+        return Code::NW;
+    if (joinedEquals(ns, ew, "SE") || joinedEquals(ns, ew, "S"))
+        return Code::SE;
+    if (joinedEquals(ns, ew, "SW"))
+        return Code::SW;
+    // The joined text trimmed of blanks is one part trimmed when the other part
+    // is all blanks; with both parts non-blank it is longer than one character.
+    const std::string_view a = trimBlanks(ns), b = trimBlanks(ew);
+    if (a.empty() && b.empty())
+        return Code::Blank;
+    const std::string_view one = b.empty() ? a : a.empty() ? b : std::string_view();
+    if (one == "+")
+        return Code::TurnRight;
+    if (one == "-")
+        return Code::TurnLeft;
+    return Code::Other;
+}
+
+// A cell's number for the leg; NaN (the report's null) when it is beyond range.
+double legNumber(const Cell &cell)
+{
+    try {
+        return cell.value();
+    } catch (const VbError &) {
+        return std::numeric_limits<double>::quiet_NaN();
+    }
 }
 
 } // namespace
@@ -43,6 +77,8 @@ void convertCourses(CourseTable &table, LegTable &legs, const MessageFn &message
     for (int i = 0; i <= last; ++i) {
         Leg &leg = legs[i];
         leg.direction.reset();
+        leg.cosine = 1.0;
+        leg.sine = 0.0;
         ++counter;
         std::string_view ns = table.at(i, ColNS).text();
         std::string_view ew = table.at(i, ColEW).text();
@@ -51,16 +87,18 @@ void convertCourses(CourseTable &table, LegTable &legs, const MessageFn &message
         const double seconds = table.at(i, ColSec).value();
         const Cell &distance = table.at(i, ColDistance);
         const Cell &radius = table.at(i, ColRadius);
-        leg.distance = distance;
-        leg.radius = radius;
-        leg.lr = table.at(i, ColLR).text();
-        leg.chord = table.at(i, ColChord);
-        leg.tag = table.at(i, ColTag).text();
+        const Cell &chord = table.at(i, ColChord);
+        leg.distance = legNumber(distance);
+        leg.radius = legNumber(radius);
+        leg.chord = legNumber(chord);
+        leg.radiusTyped = !radius.isEmpty();
+        leg.cellsRead = true;
+        leg.side = readCurveSide(table.at(i, ColLR).text());
+        leg.tag = readTag(table.at(i, ColTag).text());
 
-        const std::string_view tag = trimBlanks(leg.tag);
-        if (tag == "N")
+        if (leg.tag == Tag::NewLot)
             --counter;
-        if (tag == "B" && distance.isEmpty() && radius.isEmpty())
+        if (leg.tag == Tag::Begin && distance.isEmpty() && radius.isEmpty())
             --counter;
         leg.course = counter;
 
@@ -72,67 +110,71 @@ void convertCourses(CourseTable &table, LegTable &legs, const MessageFn &message
             ns = "N";
         }
 
-        double chordValue = leg.chord.value();
+        // A number beyond range stops the computation here, as reading it always has.
+        double chordValue = chord.value();
         const double radiusValue = radius.value();
         double distanceValue = distance.value();
         if (chordValue == 0.0 && radiusValue != 0.0 && distanceValue != 0.0) {
             try {
-                leg.chord = Cell(double(chordFromArc(sng(radiusValue), sng(distanceValue))));
-                chordValue = leg.chord.number();
+                chordValue = double(chordFromArc(sng(radiusValue), sng(distanceValue)));
             } catch (const VbError &) {
                 message("Error in chord calc");
-                leg.chord = Cell(0.0);
                 chordValue = 0.0;
             }
         }
         if (distanceValue == 0.0 && radiusValue != 0.0 && chordValue != 0.0) {
             try {
-                leg.distance = Cell(arcFromChord(sng(radiusValue), sng(chordValue)));
-                distanceValue = leg.distance.number();
+                distanceValue = arcFromChord(sng(radiusValue), sng(chordValue));
             } catch (const VbError &) {
                 // Deliberate: the arc completion has always carried this text.
                 message("Error in calc of gap");
-                leg.distance = Cell(0.0);
                 distanceValue = 0.0;
             }
         }
+        leg.distance = distanceValue;
+        leg.radius = radiusValue;
+        leg.chord = chordValue;
 
         const float angle = sng(degrees + minutes / 60.0 + seconds / 3600.0);
-        std::string code;
-        code.reserve(ns.size() + ew.size());
-        code.append(ns).append(ew);
-        float direction = quadrantDirection(code, angle);
-        const std::string_view trimmedCode = trimBlanks(code);
-        leg.distanceValue = distanceValue;
-        leg.radiusValue = radiusValue;
-        leg.chordValue = chordValue;
+        float direction = angle;
+        const Code code = readCode(ns, ew);
+        switch (code) {
+        case Code::NE: direction = sng(angle - 90.0); break;
+        case Code::NW: direction = sng(-double(angle) - 90.0); break;
+        case Code::SE: direction = sng(90.0 - angle); break;
+        case Code::SW: direction = sng(angle + 90.0); break;
+        case Code::TurnRight: direction = sng(double(running) + angle); break;
+        case Code::TurnLeft: direction = sng(double(running) - angle); break;
+        case Code::Blank:
+        case Code::Other: break;
+        }
 
-        if (trimmedCode.empty()) {
+        if (code == Code::Blank) {
             // A tangent course continues from the running direction.
-            const double d = leg.distanceValue;
-            const double r = leg.radiusValue;
+            const double d = distanceValue;
+            const double r = radiusValue;
             if (d <= 0.0 || r <= 0.0) {
                 if (d > 0.0)
                     leg.direction = running;
             } else {
                 const float delta = sng(360.0 * d / (kPi * (r * 2.0)));
-                const std::string_view lr = trimBlanks(leg.lr);
-                if (lr == "L") {
+                if (leg.side == CurveSide::Left) {
                     leg.direction = sng(running - delta / 2.0);
                     running = sng(double(running) - delta);
-                } else if (lr == "R") {
+                } else if (leg.side == CurveSide::Right) {
                     leg.direction = sng(running + delta / 2.0);
                     running = sng(double(running) + delta);
                 }
             }
-            continue;
+        } else {
+            leg.direction = direction;
+            running = direction;
         }
-        if (trimmedCode == "+")
-            direction = sng(double(running) + angle);
-        else if (trimmedCode == "-")
-            direction = sng(double(running) - angle);
-        leg.direction = direction;
-        running = direction;
+        if (leg.direction) {
+            const double a = double(*leg.direction) * kPi / 180.0;
+            leg.cosine = std::cos(a);
+            leg.sine = std::sin(a);
+        }
     }
 }
 

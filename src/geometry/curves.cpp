@@ -50,19 +50,22 @@ double mapAngle(PointF centre, PointF p)
 
 } // namespace
 
-std::string traceCurve(bool right, PointF &pen, double direction, float radius, float chord, const CurveSink &sink)
+ChordDirection ChordDirection::of(double radians) { return {radians, std::cos(radians), std::sin(radians)}; }
+
+CurveOutcome traceCurve(bool right, PointF &pen, const ChordDirection &direction, float radius, float chord,
+                        const CurveSink &sink)
 {
     try {
         // Deliberate: a radius of exactly half the chord is nudged; in single
         // precision this rarely changes the value, and the roots below rely on it.
         radius = sng(radius + 0.00000001);
         if (chord == 0.0f)
-            return {};
+            return CurveOutcome::Traced;
         const PointF start = pen;
-        const PointF end{sng(start.x + chord * std::cos(direction)), sng(start.y + chord * std::sin(direction))};
+        const PointF end{sng(start.x + chord * direction.cosine), sng(start.y + chord * direction.sine)};
         const double h = fsqrt(double(radius) * radius - double(chord) * chord / 4.0);
         const double beta = std::atan(fdiv(h, chord / 2.0));
-        const double toCentre = right ? direction + beta : direction - beta;
+        const double toCentre = right ? direction.radians + beta : direction.radians - beta;
         const PointF centre{sng(start.x + radius * std::cos(toCentre)), sng(start.y + radius * std::sin(toCentre))};
         const double startAngle = mapAngle(centre, start);
         const double endAngle = mapAngle(centre, end);
@@ -87,9 +90,9 @@ std::string traceCurve(bool right, PointF &pen, double direction, float radius, 
         if (sink.perimeterMode && sink.perimeterSum)
             *sink.perimeterSum = dbl(*sink.perimeterSum + arc);
         pen = end;
-        return {};
+        return CurveOutcome::Traced;
     } catch (const VbError &) {
-        return "Error in curve.";
+        return CurveOutcome::Fault;
     }
 }
 

@@ -3,7 +3,7 @@
 // that fill in what a deed leaves out, and the left-hand and right-hand tracing
 // routines that the walk and the closing leg use to draw an arc over a chord.
 
-#include <string>
+#include <cstdint>
 
 #include "figure.h"
 #include "point.h"
@@ -34,11 +34,25 @@ struct CurveSink {
     double *perimeterSum = nullptr;
 };
 
+/// The chord's direction: radians clockwise from east as seen on the map, with
+/// its cosine and sine (the walk computes them once per course).
+struct ChordDirection {
+    double radians = 0.0;
+    double cosine = 1.0;
+    double sine = 0.0;
+    static ChordDirection of(double radians);
+};
+
+/// What tracing a curve came to.
+enum class CurveOutcome : uint8_t {
+    Traced, ///< drawn (or nothing to draw for a chord of 0); the pen is at the chord's end
+    Fault,  ///< a run-time fault: the caller shows "Error in curve." and the pen stays
+};
+
 /// Traces the shorter arc over a chord from @p pen, bending left (@p right false)
 /// or right, and moves @p pen to the chord's end.
-/// @param direction chord direction in radians, clockwise from east as seen on the map
 /// @param radius, chord  drawing units; a chord of 0 traces nothing
-/// @returns "" on success, "Error in curve." on a run-time fault (the pen stays)
-std::string traceCurve(bool right, PointF &pen, double direction, float radius, float chord, const CurveSink &sink);
+CurveOutcome traceCurve(bool right, PointF &pen, const ChordDirection &direction, float radius, float chord,
+                        const CurveSink &sink);
 
 } // namespace quilmar

@@ -4,8 +4,8 @@
 // Points are singles in drawing units (twips), x east, y south.
 
 #include <cstdint>
-#include <string>
 
+#include "leg_table.h"
 #include "point.h"
 
 namespace quilmar {
@@ -20,12 +20,10 @@ struct TraverseState {
     float areaSum = 0.0f;
     double perimeterSum = 0.0;
     float closingRadius = 0.0f;
-    std::string closingLR;
+    CurveSide closingSide = CurveSide::None;
     bool areaMode = false;
     bool perimeterMode = false;
-    bool closingFlag = false;
-    bool errorFlag = false;
-    bool skipOnce = false;
+    bool closingFlag = false; ///< set at a "C" row, cleared by a curved close that succeeded
 };
 
 /// The printout's balanced-gap shares (drawing units per straight leg) and the

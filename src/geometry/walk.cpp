@@ -5,7 +5,6 @@
 #include "area.h"
 #include "closing_leg.h"
 #include "curves.h"
-#include "number_read.h"
 #include "vb_math.h"
 #include "walk_marks.h"
 
@@ -20,52 +19,51 @@ public:
     {
     }
 
-    // Returns the curve routine's message when the walk has to stop.
-    std::string row(const Leg &leg)
+    // Walks one row; false when a curve could not be traced and the walk stops.
+    bool row(const Leg &leg)
     {
         const float sf = m_options.scaleFactor;
-        float r = sng(double(sf) * leg.radiusValue);
-        const float d = sng(double(sf) * leg.distanceValue);
-        const float c = sng(double(sf) * leg.chordValue);
+        float r = sng(double(sf) * leg.radius);
+        const float d = sng(double(sf) * leg.distance);
+        const float c = sng(double(sf) * leg.chord);
         // Deliberate: a half circle is avoided by a nudge of the radius.
         if (r > 0.0f && c > 0.0f && 2.0 * r == c)
             r = sng(r + 0.00000001);
 
-        const std::string_view tag = trimBlanks(leg.tag);
-        if (tag == "C") {
+        if (leg.tag == Tag::Close) {
             m_state.closingFlag = true;
             m_state.closingRadius = r;
-            m_state.closingLR = leg.lr;
+            m_state.closingSide = leg.side;
             closingLeg(leg.course, m_options, m_state, m_figure);
-            return {};
+            return true;
         }
 
-        const double a = double(leg.directionValue()) * kPi / 180.0;
         if (r == 0.0f) {
-            straight(leg, a, d);
+            straight(leg, d);
         } else {
+            const double cx = leg.cosine * c, cy = leg.sine * c;
             if (m_state.areaMode)
-                addShoelaceStep(m_state.areaPoint, m_state.areaSum, sng(std::cos(a) * c), sng(std::sin(a) * c));
-            addReferenceLabel(m_figure, m_options, m_state.canvas, leg.course, std::cos(a) * c, std::sin(a) * c);
-            const bool right = trimBlanks(leg.lr) == "R";
+                addShoelaceStep(m_state.areaPoint, m_state.areaSum, sng(cx), sng(cy));
+            if (m_options.printing)
+                addReferenceLabel(m_figure, m_options, m_state.canvas, leg.course, cx, cy);
             CurveSink sink{&m_figure, legTarget(), m_state.areaMode, m_state.perimeterMode, &m_state.areaSum,
                            &m_state.perimeterSum};
-            std::string message = traceCurve(right, m_state.pen, a, r, c, sink);
-            if (!message.empty())
-                return message;
+            const ChordDirection direction{double(leg.directionValue()) * kPi / 180.0, leg.cosine, leg.sine};
+            if (traceCurve(leg.side == CurveSide::Right, m_state.pen, direction, r, c, sink) == CurveOutcome::Fault)
+                return false;
             m_state.canvas = m_state.pen;
         }
-        afterCourse(tag);
-        return {};
+        afterCourse(leg.tag);
+        return true;
     }
 
 private:
     Target legTarget() const { return m_options.printing ? Target::Both : Target::Screen; }
 
-    void straight(const Leg &leg, double a, float d)
+    void straight(const Leg &leg, float d)
     {
-        float dx = sng(std::cos(a) * d);
-        float dy = sng(std::sin(a) * d);
+        float dx = sng(leg.cosine * d);
+        float dy = sng(leg.sine * d);
         if (m_state.areaMode)
             addShoelaceStep(m_state.areaPoint, m_state.areaSum, dx, dy);
         if (m_state.perimeterMode)
@@ -87,19 +85,19 @@ private:
         m_state.canvas = to;
     }
 
-    void afterCourse(std::string_view tag)
+    void afterCourse(Tag tag)
     {
-        if (tag == "N") {
+        if (tag == Tag::NewLot) {
             m_state.pen = m_state.origin;
             m_state.canvas = m_state.origin;
             m_state.closingStart = {};
-        } else if (tag == "B") {
+        } else if (tag == Tag::Begin) {
             m_state.pob = m_state.pen;
             m_state.areaPoint = m_state.pen;
             m_state.areaSum = 0.0f;
             m_state.perimeterSum = 0.0;
             m_figure.items.push_back({FigCircle{m_state.canvas, 30.0f}, Palette::Blue, legTarget()});
-        } else if (tag == "O") {
+        } else if (tag == Tag::Origin) {
             m_state.origin = m_state.pen;
         }
     }
@@ -112,7 +110,17 @@ private:
 
 } // namespace
 
-std::string walkCourses(const LegTable &legs, const WalkOptions &options, TraverseState &state, Figure &figure)
+const char *walkStopMessage(WalkStop stop)
+{
+    switch (stop) {
+    case WalkStop::None: return "";
+    case WalkStop::CurveFault: return "Error in curve.";
+    case WalkStop::DrawFault: return "Error in drawing map (drawmap)";
+    }
+    return "";
+}
+
+WalkStop walkCourses(const LegTable &legs, const WalkOptions &options, TraverseState &state, Figure &figure)
 {
     state.closingFlag = false;
     state.areaPoint = {};
@@ -120,15 +128,13 @@ std::string walkCourses(const LegTable &legs, const WalkOptions &options, Traver
     state.pob = {};
     Walker walker(options, state, figure);
     try {
-        for (const Leg &leg : legs) {
-            std::string message = walker.row(leg);
-            if (!message.empty())
-                return message;
-        }
+        for (const Leg &leg : legs)
+            if (!walker.row(leg))
+                return WalkStop::CurveFault;
     } catch (const VbError &) {
-        return "Error in drawing map (drawmap)";
+        return WalkStop::DrawFault;
     }
-    return {};
+    return WalkStop::None;
 }
 
 } // namespace quilmar

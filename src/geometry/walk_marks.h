@@ -6,7 +6,7 @@
 
 #include "figure.h"
 #include "traverse_state.h"
-#include "walk.h"
+#include "walk_options.h"
 
 namespace quilmar {
 

@@ -60,7 +60,8 @@ std::string mapFileBytes(const CourseTable &table, const std::string &descriptio
     }
     out += '~';
     out += withCrLf(utf8ToCp1252(descriptionUtf8));
-    out += "\r\n*spec=";
+    out += "\r\n";
+    out += kTailMarker;
     // As the option buttons are read: Feet, else Meters, else Other.
     out += unitDigit(units);
     out += utf8ToCp1252(scaleTextUtf8);

@@ -2,7 +2,8 @@
 // The map file (*.map): the whole course table, the property description, the
 // unit option and the scale, as Windows-1252 text with CR LF line ends. One
 // course line per table row (ten cells separated by TAB), then "~" and the
-// description, then "*spec=", the unit digit and the scale text.
+// description, then the tail line: the tail marker, the unit digit and the
+// scale text.
 //
 // These functions only build, write, read and take apart the file; asking the
 // user (save question, overwrite question, file dialogs) and showing the loaded
@@ -14,6 +15,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "course_table.h"
@@ -23,6 +25,10 @@ namespace quilmar {
 
 /// The ten cells of one course line, columns 1 to 10 at indices 0 to 9, UTF-8.
 using MapFileRow = std::array<std::string, CourseTable::kColumns>;
+
+/// The marker that opens the map file's tail line (unit digit and scale text
+/// follow it). The file format's own spelling; it is written nowhere else.
+inline constexpr std::string_view kTailMarker = "*spec=";
 
 /// Files larger than this (bytes) are refused by readMapFile: a full table with
 /// generous cells and description is a few hundred kilobytes at most.
@@ -83,7 +89,7 @@ struct MapReadResult {
     /// unit and scale of the window are to be left as they were.
     bool reachedDescription = false;
     /// The "~" line without its "~", then each later line up to end of file as
-    /// CR LF + line, in UTF-8; still holds the "*spec=" line (see splitSpec).
+    /// CR LF + line, in UTF-8; still holds the tail line (see splitTail).
     std::string description;
 };
 
@@ -98,24 +104,24 @@ MapReadResult readMapFile(const std::string &path);
 /// The message for a file that does not exist: "File " + name + " not found.".
 std::string fileNotFoundMessage(const std::string &name);
 
-/// The description text taken apart at its first "*spec=".
-struct SpecSplit {
+/// The description text taken apart at its first tail marker.
+struct TailSplit {
     bool found = false;
-    /// The character right after "*spec=", if any. The caller decides what other
+    /// The character right after the tail marker, if any. The caller decides what other
     /// than '0', '1', '2' means. A non-ASCII character is reported as '?'.
     std::optional<char> unit;
     /// Text after the unit character to the end (may be empty); "Standard" when
-    /// "*spec=" was not found.
+    /// the tail marker was not found.
     std::string scale = "Standard";
-    /// Text before "*spec="; the whole text when it was not found.
+    /// Text before the tail marker; the whole text when it was not found.
     std::string description;
 };
 
 /// Takes the unit, the scale and the description out of MapReadResult::description.
-/// Deliberately keeps the CR LF that precedes "*spec=" in the description, so each
+/// Deliberately keeps the CR LF that precedes the tail marker in the description, so each
 /// save-and-open cycle adds one trailing line break; users' files depend on the
 /// description coming back exactly so.
-SpecSplit splitSpec(const std::string &text);
+TailSplit splitTail(const std::string &text);
 
 /// Puts field k of row r into table cell (r, k + 1) as text, for the rows given
 /// (rows past 201 are ignored). The table is deliberately not cleared first: rows

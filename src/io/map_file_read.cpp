@@ -111,10 +111,10 @@ MapReadResult readMapFile(const std::string &path)
     return result;
 }
 
-SpecSplit splitSpec(const std::string &text)
+TailSplit splitTail(const std::string &text)
 {
-    SpecSplit split;
-    const std::size_t p = text.find("*spec=");
+    TailSplit split;
+    const std::size_t p = text.find(kTailMarker);
     if (p == std::string::npos) {
         split.description = text;
         return split;
@@ -122,7 +122,7 @@ SpecSplit splitSpec(const std::string &text)
     split.found = true;
     split.description = text.substr(0, p);
     split.scale.clear();
-    std::size_t unitAt = p + 6;
+    std::size_t unitAt = p + kTailMarker.size();
     if (unitAt < text.size()) {
         const auto lead = static_cast<unsigned char>(text[unitAt]);
         split.unit = lead < 0x80 ? static_cast<char>(lead) : '?';

@@ -47,20 +47,22 @@ FitResult rescaling(const LegTable &legs, const ScaleChoice &choice, float width
     };
     try {
         for (const Leg &leg : legs) {
-            const double a = double(leg.directionValue()) * kPi / 180.0;
-            const double distance = leg.distanceValue;
-            const double chord = leg.chordValue;
+            const double distance = leg.distance;
+            const double chord = leg.chord;
             // A curve of radius "0" is still a curve: the test adds 0.01.
-            const double radius = leg.radius.isEmpty() ? 0.0 : leg.radiusValue + 0.01;
-            const std::string_view tag = trimBlanks(leg.tag);
-            if (tag == "N")
+            const double radius = leg.radiusTyped ? leg.radius + 0.01 : 0.0;
+            const Tag tag = leg.tag;
+            if (tag == Tag::NewLot)
                 run = state.origin;
             if (radius == 0.0) {
-                const double ix = std::cos(a) * distance, iy = std::sin(a) * distance;
+                const double ix = leg.cosine * distance, iy = leg.sine * distance;
                 run = {sng(run.x + ix), sng(run.y + iy)};
                 if (ix != 0.0 || iy != 0.0)
                     ++straightLegs;
             } else {
+                // Deliberate: the curve's chord is stepped by the angle's supplement
+                // (with the 3.14159265 constant, not quite -cos and sin of the angle).
+                const double a = double(leg.directionValue()) * kPi / 180.0;
                 run = {sng(run.x - std::cos(kPi - a) * chord), sng(run.y + std::sin(kPi - a) * chord)};
             }
             minX = std::min(minX, run.x);
@@ -68,12 +70,12 @@ FitResult rescaling(const LegTable &legs, const ScaleChoice &choice, float width
             maxX = std::max(maxX, run.x);
             maxY = std::max(maxY, run.y);
             rowsDone = true;
-            if (tag == "B") {
+            if (tag == Tag::Begin) {
                 state.pob = run;
-            } else if (tag == "O") {
+            } else if (tag == Tag::Origin) {
                 state.origin = run;
                 state.pob = run;
-            } else if (tag == "C") {
+            } else if (tag == Tag::Close) {
                 run = state.pob;
             }
         }

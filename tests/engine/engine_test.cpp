@@ -31,11 +31,11 @@ struct Fixture {
         int r = 0;
         for (const Row &row : rows) {
             for (int c = 0; c < 10; ++c)
-                engine.table().at(r, c + 1) = Cell(std::string(row[c]));
+                engine.editTable().at(r, c + 1) = Cell(std::string(row[c]));
             ++r;
         }
-        engine.table().gethighest();
-        engine.mindraw();
+        engine.editTable().gethighest();
+        engine.redraw();
     }
 };
 
@@ -107,11 +107,11 @@ TEST(Engine, ResultTextsOfHandWorkedTraverses)
         int r = 0;
         for (const Row &row : c.rows) {
             for (int k = 0; k < 10; ++k)
-                f.engine.table().at(r, k + 1) = Cell(std::string(row[k]));
+                f.engine.editTable().at(r, k + 1) = Cell(std::string(row[k]));
             ++r;
         }
-        f.engine.table().gethighest();
-        f.engine.mindraw();
+        f.engine.editTable().gethighest();
+        f.engine.redraw();
         EXPECT_EQ(f.engine.acresbox(), "") << c.what;
         f.engine.mnuGap_Click();
         EXPECT_EQ(f.engine.acresbox(), c.gap) << c.what;
@@ -137,8 +137,8 @@ TEST(Engine, EmptyTableClosesExactly)
     EXPECT_EQ(f.engine.acresbox(), "Gap = 0");
     // An empty table fits 1 x 1: the smaller side times 0.72, centred on (0, 0).
     EXPECT_FLOAT_EQ(f.engine.scaleFactor(), 3456.0f);
-    EXPECT_FLOAT_EQ(f.engine.scaleLeft(), -1872.0f);
-    EXPECT_FLOAT_EQ(f.engine.scaleTop(), -672.0f);
+    EXPECT_FLOAT_EQ(f.engine.canvasView().scaleLeft, -1872.0f);
+    EXPECT_FLOAT_EQ(f.engine.canvasView().scaleTop, -672.0f);
 }
 
 TEST(Engine, AreaCommandsRefuseAnOpenTraverse)
@@ -168,12 +168,13 @@ TEST(Engine, ModesAreCarriedAsTheWindowCarriesThem)
 {
     Fixture f{kBegin, straight("N", "100"), straight("E", "100"), straight("S", "100"), straight("W", "100")};
     f.engine.mnuGap_Click();
-    EXPECT_TRUE(f.engine.state().perimeterMode); // the gap command leaves it on
+    // The gap command leaves the perimeter mode on: a redraw adds up the perimeter.
+    EXPECT_GT(f.engine.redraw().perimeterSum, 0.0);
     f.engine.mnuPeri_Click();
-    EXPECT_FALSE(f.engine.state().perimeterMode);
+    EXPECT_EQ(f.engine.redraw().perimeterSum, 0.0);
     f.engine.mnuAcres_Click();
-    EXPECT_FALSE(f.engine.state().areaMode);
-    f.engine.mindraw(); // a plain redraw empties the result line
+    EXPECT_EQ(f.engine.redraw().areaSum, 0.0f); // the area mode ends with its command
+    f.engine.redraw(); // a plain redraw empties the result line
     EXPECT_EQ(f.engine.acresbox(), "");
     EXPECT_EQ(f.engine.imperialText(), "0.00 acres [0.00 sq ft]");
     EXPECT_EQ(f.engine.metricText(), " Square Meters [0.00 Ha]");
@@ -183,7 +184,7 @@ TEST(Engine, MessagesOfABadCurveAndABadNumber)
 {
     Fixture f{{"N", "", "", "", "", "", "120", "50", "L", ""}};
     EXPECT_EQ(f.prompter.messages, (std::vector<std::string>{"Error in calc of gap", "Error in curve."}));
-    EXPECT_TRUE(f.engine.state().errorFlag);
+    EXPECT_EQ(f.engine.lastDraw().error, "Error in curve.");
 
     // A bearing beyond single range faults the conversion itself.
     Fixture g{{"N", "1e39", "", "", "E", "100", "", "", "", ""}};
@@ -201,9 +202,9 @@ TEST(Engine, ZeroCanvasFaultsAreReportedNotCrashed)
     Recorder prompter;
     Engine engine(prompter);
     engine.setCanvasSize(0, 0);
-    engine.table().at(0, ColNS) = "N";
-    engine.table().at(0, ColDistance) = "100";
-    engine.mindraw();
+    engine.editTable().at(0, ColNS) = "N";
+    engine.editTable().at(0, ColDistance) = "100";
+    engine.redraw();
     EXPECT_EQ(prompter.messages,
               (std::vector<std::string>{"Error in drawing map (drawmap)", "6.  Error drawing map (mindraw)"}));
     prompter.messages.clear();

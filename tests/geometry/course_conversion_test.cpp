@@ -103,11 +103,11 @@ TEST(CourseConversion, CurveCompletion)
         {"N", "", "", "", "", "", "120", "50", "L", ""},  // radius too small
         {"N", "", "", "", "", "50", "40", "100", "L", ""}, // both given: nothing computed
     }), &messages);
-    EXPECT_NEAR(legs[0].chord.value(), 95.8851, 1e-3);
-    EXPECT_NEAR(legs[1].distance.value(), 311.36, 0.01);
-    EXPECT_DOUBLE_EQ(legs[2].distance.value(), 0.0);
-    EXPECT_EQ(legs[3].chord, Cell("40"));
-    EXPECT_EQ(legs[3].distance, Cell("50"));
+    EXPECT_NEAR(legs[0].chord, 95.8851, 1e-3);
+    EXPECT_NEAR(legs[1].distance, 311.36, 0.01);
+    EXPECT_DOUBLE_EQ(legs[2].distance, 0.0);
+    EXPECT_EQ(legs[3].chord, 40.0);
+    EXPECT_EQ(legs[3].distance, 50.0);
     ASSERT_EQ(messages.size(), 1u);
     EXPECT_EQ(messages[0], "Error in calc of gap");
 }

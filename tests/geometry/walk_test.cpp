@@ -16,7 +16,7 @@ namespace {
 struct Walked {
     TraverseState state;
     Figure figure;
-    std::string message;
+    WalkStop stop = WalkStop::None;
 };
 
 Walked walk(CourseTable t, bool areaMode = true, float scale = 1.0f)
@@ -27,7 +27,7 @@ Walked walk(CourseTable t, bool areaMode = true, float scale = 1.0f)
     w.state.perimeterMode = true;
     WalkOptions options;
     options.scaleFactor = scale;
-    w.message = walkCourses(legs, options, w.state, w.figure);
+    w.stop = walkCourses(legs, options, w.state, w.figure);
     return w;
 }
 
@@ -67,7 +67,8 @@ TEST(Curves, LeftCurveCentreLiesLeftOfTheChord)
         Figure f;
         PointF pen{0, 0};
         CurveSink sink{&f, Target::Screen};
-        EXPECT_EQ(traceCurve(right, pen, 45.0 * 3.14159265 / 180.0, 100.0f, 141.42136f, sink), "");
+        EXPECT_EQ(traceCurve(right, pen, ChordDirection::of(45.0 * 3.14159265 / 180.0), 100.0f, 141.42136f, sink),
+                  CurveOutcome::Traced);
         EXPECT_NEAR(pen.x, 100.0f, 1e-3);
         EXPECT_NEAR(pen.y, 100.0f, 1e-3);
         auto arcs = itemsOf<FigArc>(f);
@@ -85,7 +86,7 @@ TEST(Curves, LeftCurveCentreLiesLeftOfTheChord)
 TEST(Curves, RadiusShorterThanHalfTheChordFails)
 {
     PointF pen{5, 5};
-    EXPECT_EQ(traceCurve(false, pen, 0.0, 50.0f, 120.0f, CurveSink{}), "Error in curve.");
+    EXPECT_EQ(traceCurve(false, pen, ChordDirection::of(0.0), 50.0f, 120.0f, CurveSink{}), CurveOutcome::Fault);
     EXPECT_EQ(pen, (PointF{5, 5}));
 }
 
@@ -98,7 +99,7 @@ TEST(Walk, BeginningNewLotAndOrigin)
         {"", "", "", "", "", "", "", "", "", "N"},
         {"S", "", "", "", "", "20", "", "", "", ""},
     }));
-    EXPECT_EQ(w.message, "");
+    EXPECT_EQ(w.stop, WalkStop::None);
     EXPECT_NEAR(w.state.origin.x, 100.0f, 1e-3);
     EXPECT_NEAR(w.state.pob.x, 100.0f, 1e-3);
     EXPECT_NEAR(w.state.pob.y, -50.0f, 1e-3);
@@ -142,7 +143,7 @@ TEST(Walk, CurvedCloseAndCannotClose)
 
     for (const char *lr : {"L", "R"}) {
         Walked bad = corner({"", "", "", "", "", "", "", "50", lr, "C"});
-        EXPECT_EQ(bad.message, ""); // the walk goes on
+        EXPECT_EQ(bad.stop, WalkStop::None); // the walk goes on
         EXPECT_TRUE(bad.state.closingFlag);
         EXPECT_NEAR(bad.state.pen.x, 100.0f, 1e-3); // left open
         auto texts = itemsOf<FigText>(bad.figure);
@@ -161,7 +162,7 @@ TEST(Walk, CurveThatCannotSpanItsChordStopsTheWalk)
         {"N", "", "", "", "", "", "120", "50", "L", ""},
         {"E", "", "", "", "", "100", "", "", "", ""},
     }));
-    EXPECT_EQ(w.message, "Error in curve.");
+    EXPECT_EQ(w.stop, WalkStop::CurveFault);
     EXPECT_TRUE(itemsOf<FigLine>(w.figure).empty());
 }
 
@@ -169,7 +170,7 @@ TEST(Walk, HalfCircleByChordIsDrawn)
 {
     // Chord exactly twice the radius: drawn as a half circle, not rejected.
     Walked w = walk(makeTable({{"E", "", "", "", "", "", "200", "100", "R", ""}}));
-    EXPECT_EQ(w.message, "");
+    EXPECT_EQ(w.stop, WalkStop::None);
     EXPECT_NEAR(w.state.pen.x, 200.0f, 1e-3);
     EXPECT_EQ(itemsOf<FigArc>(w.figure).size(), 1u);
 }

@@ -115,7 +115,7 @@ TEST_F(MapFileTest, RoundTripThroughWindows1252)
     EXPECT_EQ(back.at(0, ColDistance), Cell("328.1"));  // numbers come back as text
     EXPECT_EQ(back.at(1, ColTag), Cell("\xC3\xA9t\xC3\xA9"));
     EXPECT_EQ(back.at(30, ColRadius), Cell("500"));
-    const SpecSplit split = splitSpec(read.description);
+    const TailSplit split = splitTail(read.description);
     EXPECT_EQ(split.unit, '1');
     EXPECT_EQ(split.scale, "1200");
     EXPECT_EQ(split.description, "Lot 7\r\nWest\r\n");
@@ -127,7 +127,7 @@ TEST_F(MapFileTest, EachSaveAndOpenAddsOneTrailingLineBreak)
     const std::string path = (m_dir / "deed.map").string();
     for (const std::string expected : {"Lot 7\r\n", "Lot 7\r\n\r\n", "Lot 7\r\n\r\n\r\n"}) {
         ASSERT_TRUE(writeMapFile(path, mapFileBytes(CourseTable{}, description, Units::Feet, "Standard"), nullptr));
-        description = splitSpec(readMapFile(path).description).description;
+        description = splitTail(readMapFile(path).description).description;
         EXPECT_EQ(description, expected);
     }
 }
@@ -203,7 +203,7 @@ TEST_F(MapFileTest, BinaryJunkNeverBreaksTheReader)
                 EXPECT_EQ(cell.find_first_of("\t\r\n"), std::string::npos);
         CourseTable table;
         storeRows(read.rows, table);
-        splitSpec(read.description);
+        splitTail(read.description);
     }
 }
 
@@ -246,7 +246,7 @@ TEST(SplitSpec, TakesUnitScaleAndDescriptionApart)
         {"*spec=\xC3\xA9" "12", true, '?', "12", ""},         // é as the unit
     };
     for (const auto &c : cases) {
-        const SpecSplit s = splitSpec(c.text);
+        const TailSplit s = splitTail(c.text);
         EXPECT_EQ(s.found, c.found) << c.text;
         EXPECT_EQ(s.unit, c.unit) << c.text;
         EXPECT_EQ(s.scale, c.scale) << c.text;

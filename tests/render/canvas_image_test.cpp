@@ -31,31 +31,31 @@ TEST(CanvasImage, PaintsScreenItemsOnTheBackgroundOfTheGivenSize)
     // Origin (-300, -150): the leg spans pixel columns (0 + 300)/15 = 20 to
     // (1500 + 300)/15 = 120 on row (300 + 150)/15 = 30; the printer's leg would
     // lie on row (0 + 150)/15 = 10.
-    const QImage image = renderFigureImage(twoLegs(), -300, -150, 3000, 1500, kCanvasGrey);
+    const QImage image = renderFigureImage(twoLegs(), CanvasView{-300, -150, 3000, 1500}, kCanvasGrey);
     ASSERT_EQ(image.size(), QSize(200, 100));
     EXPECT_EQ(pixel(image, 50, 30), kBlue);
     EXPECT_EQ(pixel(image, 10, 30), kGrey);
     EXPECT_EQ(pixel(image, 50, 10), kGrey);
     // The bitmap copy: white; 3001 twips need a 201st pixel, 1490 round up to 100.
-    const QImage copy = renderFigureImage(Figure{}, 0, 0, 3001, 1490, kBitmapWhite);
+    const QImage copy = renderFigureImage(Figure{}, CanvasView{0, 0, 3001, 1490}, kBitmapWhite);
     EXPECT_EQ(copy.size(), QSize(201, 100));
     EXPECT_EQ(pixel(copy, 0, 0), kWhite);
     // Bad sizes give no image.
-    EXPECT_TRUE(renderFigureImage(twoLegs(), 0, 0, 0, 1500, kCanvasGrey).isNull());
-    EXPECT_TRUE(renderFigureImage(twoLegs(), 0, 0, 3000, -1, kCanvasGrey).isNull());
-    EXPECT_TRUE(renderFigureImage(twoLegs(), 0, 0, 3000, 1500, kCanvasGrey, 0).isNull());
+    EXPECT_TRUE(renderFigureImage(twoLegs(), CanvasView{0, 0, 0, 1500}, kCanvasGrey).isNull());
+    EXPECT_TRUE(renderFigureImage(twoLegs(), CanvasView{0, 0, 3000, -1}, kCanvasGrey).isNull());
+    EXPECT_TRUE(renderFigureImage(twoLegs(), CanvasView{0, 0, 3000, 1500}, kCanvasGrey, 0).isNull());
 }
 
 TEST(CanvasImage, WritesPngAndSvgFiles)
 {
     QTemporaryDir dir;
     ASSERT_TRUE(dir.isValid());
-    ASSERT_TRUE(writeFigurePng(dir.filePath("map.png"), twoLegs(), 0, 0, 3000, 1500, kCanvasGrey));
+    ASSERT_TRUE(writeFigurePng(dir.filePath("map.png"), twoLegs(), CanvasView{0, 0, 3000, 1500}, kCanvasGrey));
     const QImage back(dir.filePath("map.png"));
     ASSERT_EQ(back.size(), QSize(200, 100));
     EXPECT_EQ(pixel(back, 50, 20), kBlue); // twip row 300 / 15
 
-    ASSERT_TRUE(writeFigureSvg(dir.filePath("map.svg"), twoLegs(), 0, 0, 3000, 1500, kCanvasGrey));
+    ASSERT_TRUE(writeFigureSvg(dir.filePath("map.svg"), twoLegs(), CanvasView{0, 0, 3000, 1500}, kCanvasGrey));
     QFile file(dir.filePath("map.svg"));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QString svg = QString::fromUtf8(file.readAll());
@@ -64,8 +64,8 @@ TEST(CanvasImage, WritesPngAndSvgFiles)
     EXPECT_TRUE(svg.contains("#c0c0c0")) << "background not filled";
     EXPECT_TRUE(svg.contains("#000080") && (svg.contains("<polyline") || svg.contains("<path")));
 
-    EXPECT_FALSE(writeFigurePng(dir.filePath("missing/map.png"), twoLegs(), 0, 0, 3000, 1500, kCanvasGrey));
-    EXPECT_FALSE(writeFigureSvg(dir.filePath("missing/map.svg"), twoLegs(), 0, 0, 3000, 1500, kCanvasGrey));
+    EXPECT_FALSE(writeFigurePng(dir.filePath("missing/map.png"), twoLegs(), CanvasView{0, 0, 3000, 1500}, kCanvasGrey));
+    EXPECT_FALSE(writeFigureSvg(dir.filePath("missing/map.svg"), twoLegs(), CanvasView{0, 0, 3000, 1500}, kCanvasGrey));
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "rescaling.h"
 #include "vb_math.h"
 
@@ -7,12 +9,13 @@ using namespace quilmar;
 
 namespace {
 
-Leg course(float direction, const char *distance, const char *tag = "")
+Leg course(float direction, double distance, Tag tag = Tag::None)
 {
     Leg leg;
     leg.direction = direction;
-    leg.distance = Cell(distance);
-    leg.distanceValue = leg.distance.value();
+    leg.cosine = std::cos(double(direction) * kPi / 180.0);
+    leg.sine = std::sin(double(direction) * kPi / 180.0);
+    leg.distance = distance;
     leg.tag = tag;
     return leg;
 }
@@ -41,7 +44,7 @@ TEST(Rescaling, LevelFactors)
 TEST(Rescaling, ScreenFit)
 {
     // East 100: extY is taken as 1, fx = 7200 / 100 = 72, fy = 4800: 72 * 0.72.
-    const LegTable east{course(0.0f, "100")};
+    const LegTable east{course(0.0f, 100)};
     FitResult f = fit(east, "Standard");
     EXPECT_FLOAT_EQ(f.scaleFactor, 51.84f);
     // Centred: offX = (7200 - 5184) / 2 = 1008, offY = (4800 - 51.84) / 2 = 2374.08.
@@ -54,7 +57,7 @@ TEST(Rescaling, ScreenFit)
 
 TEST(Rescaling, PrintingBranch)
 {
-    const LegTable east{course(0.0f, "100")};
+    const LegTable east{course(0.0f, 100)};
     EXPECT_FLOAT_EQ(fit(east, "1000:1", true, Units::Feet).scaleFactor, 1.44f);  // 1440 / 1000
     EXPECT_FLOAT_EQ(fit(east, " 200", true, Units::Meters).scaleFactor, 2.88f); // 576 / 200
     EXPECT_FLOAT_EQ(fit(east, " 200", true, Units::Other).scaleFactor, 103.68f); // doubled
@@ -67,8 +70,8 @@ TEST(Rescaling, CloseReturnsToTheBeginningAndNewLotToTheOrigin)
 {
     // South 100 to an origin, east 300 tagged "C" back to the origin-beginning,
     // then "N" and west 50: extents x -50..300, y 0..100.
-    const LegTable legs{course(90.0f, "100", "O"), course(0.0f, "300", "C"), course(0.0f, "", "N"),
-                        course(180.0f, "50")};
+    const LegTable legs{course(90.0f, 100, Tag::Origin), course(0.0f, 300, Tag::Close), course(0.0f, 0, Tag::NewLot),
+                        course(180.0f, 50)};
     FitResult f = fit(legs, "Maximum");
     EXPECT_NEAR(f.scaleFactor, 7200.0 / 350.0 * 0.96, 1e-4);
 }
@@ -78,7 +81,7 @@ TEST(Rescaling, BalanceSharesSpreadTheGapOverStraightLegs)
     TraverseState state;
     GapShares shares{9, 9, 9};
     ScaleChoice choice;
-    const LegTable legs{course(0.0f, "100"), course(90.0f, "50")};
+    const LegTable legs{course(0.0f, 100), course(90.0f, 50)};
     FitResult f = rescaling(legs, choice, 7200, 4800, false, 0, state, shares);
     EXPECT_EQ(shares.legCount, 2);
     EXPECT_NEAR(shares.x, 100.0 * f.scaleFactor / 2, 1e-3);
@@ -105,7 +108,7 @@ TEST(Rescaling, AFaultKeepsTheFactorReached)
     TraverseState state;
     GapShares shares;
     ScaleChoice choice;
-    const LegTable legs{course(0.0f, "100"), course(0.0f, "1e39")};
+    const LegTable legs{course(0.0f, 100), course(0.0f, 1e39)};
     FitResult f = rescaling(legs, choice, 7200, 4800, false, 5.0f, state, shares);
     EXPECT_TRUE(f.failed);
     EXPECT_FLOAT_EQ(f.scaleFactor, 72.0f); // the fit of the first course, before the level factor

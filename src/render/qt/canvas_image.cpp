@@ -36,33 +36,31 @@ void paintCanvas(QPainter &painter, QSize size, const Figure &figure, float scal
 
 } // namespace
 
-QImage renderFigureImage(const Figure &figure, float scaleLeft, float scaleTop, int widthTwips,
-                         int heightTwips, Rgb background, int twipsPerPixel)
+QImage renderFigureImage(const Figure &figure, const CanvasView &view, Rgb background, int twipsPerPixel)
 {
-    const QSize size = pixelSize(widthTwips, heightTwips, twipsPerPixel);
+    const QSize size = pixelSize(int(view.width), int(view.height), twipsPerPixel);
     if (size.isEmpty())
         return {};
     QImage image(size, QImage::Format_RGB32);
     if (image.isNull())
         return {};
     QPainter painter(&image);
-    paintCanvas(painter, size, figure, scaleLeft, scaleTop, background, twipsPerPixel);
+    paintCanvas(painter, size, figure, view.scaleLeft, view.scaleTop, background, twipsPerPixel);
     painter.end();
     return image;
 }
 
-bool writeFigurePng(const QString &path, const Figure &figure, float scaleLeft, float scaleTop,
-                    int widthTwips, int heightTwips, Rgb background, int twipsPerPixel)
+bool writeFigurePng(const QString &path, const Figure &figure, const CanvasView &view, Rgb background,
+                    int twipsPerPixel)
 {
-    const QImage image =
-        renderFigureImage(figure, scaleLeft, scaleTop, widthTwips, heightTwips, background, twipsPerPixel);
+    const QImage image = renderFigureImage(figure, view, background, twipsPerPixel);
     return !image.isNull() && image.save(path, "PNG");
 }
 
-bool writeFigureSvg(const QString &path, const Figure &figure, float scaleLeft, float scaleTop,
-                    int widthTwips, int heightTwips, Rgb background, int twipsPerPixel)
+bool writeFigureSvg(const QString &path, const Figure &figure, const CanvasView &view, Rgb background,
+                    int twipsPerPixel)
 {
-    const QSize size = pixelSize(widthTwips, heightTwips, twipsPerPixel);
+    const QSize size = pixelSize(int(view.width), int(view.height), twipsPerPixel);
     if (size.isEmpty())
         return false;
     QBuffer buffer;
@@ -76,7 +74,7 @@ bool writeFigureSvg(const QString &path, const Figure &figure, float scaleLeft, 
     QPainter painter;
     if (!painter.begin(&generator))
         return false;
-    paintCanvas(painter, size, figure, scaleLeft, scaleTop, background, twipsPerPixel);
+    paintCanvas(painter, size, figure, view.scaleLeft, view.scaleTop, background, twipsPerPixel);
     if (!painter.end())
         return false;
 

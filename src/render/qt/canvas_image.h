@@ -6,31 +6,31 @@
 #include <QImage>
 #include <QString>
 
+#include "canvas_view.h"
 #include "figure.h"
 #include "palette.h"
 
 namespace quilmar {
 
 /// Paints the screen items of @p figure on a fresh image filled with @p background.
-/// @param scaleLeft, scaleTop       drawing point (twips) at the image's top-left
-/// @param widthTwips, heightTwips   canvas size in twips; the image has
-///                                  ceil(size / twipsPerPixel) pixels each way
+/// @param view           scale origin at the image's top-left and canvas size in
+///                       twips (taken as whole twips); the image has
+///                       ceil(size / twipsPerPixel) pixels each way
 /// @param twipsPerPixel             15 for a 96-dpi screen
 /// @returns an opaque RGB32 image, or a null image when a size or twipsPerPixel
 ///          is not above 0 or the image cannot be allocated
-QImage renderFigureImage(const Figure &figure, float scaleLeft, float scaleTop, int widthTwips,
-                         int heightTwips, Rgb background, int twipsPerPixel = 15);
+QImage renderFigureImage(const Figure &figure, const CanvasView &view, Rgb background, int twipsPerPixel = 15);
 
 /// renderFigureImage() saved as a PNG file at @p path (replaced if it exists).
 /// @returns false on bad sizes or when the file cannot be written
-bool writeFigurePng(const QString &path, const Figure &figure, float scaleLeft, float scaleTop,
-                    int widthTwips, int heightTwips, Rgb background, int twipsPerPixel = 15);
+bool writeFigurePng(const QString &path, const Figure &figure, const CanvasView &view, Rgb background,
+                    int twipsPerPixel = 15);
 
 /// The same picture as an SVG file: width and height in pixels as for the PNG,
 /// a viewBox of the same size, the background as a filled rectangle and the
 /// figure as vector lines, arcs and text.
 /// @returns false on bad sizes or when the file cannot be written
-bool writeFigureSvg(const QString &path, const Figure &figure, float scaleLeft, float scaleTop,
-                    int widthTwips, int heightTwips, Rgb background, int twipsPerPixel = 15);
+bool writeFigureSvg(const QString &path, const Figure &figure, const CanvasView &view, Rgb background,
+                    int twipsPerPixel = 15);
 
 } // namespace quilmar
