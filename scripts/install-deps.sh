@@ -6,7 +6,7 @@ set -euo pipefail
 PACKAGES=(
   build-essential cmake pkg-config
   qt6-base-dev qt6-svg-dev libgl-dev
-  libgtest-dev libgmock-dev libbenchmark-dev libinih-dev
+  libgtest-dev libgmock-dev libbenchmark-dev libinih-dev libcli11-dev
   fonts-dejavu-core
   xvfb xauth xdotool imagemagick poppler-utils
 )

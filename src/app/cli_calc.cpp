@@ -1,7 +1,11 @@
-// quilmar calc and quilmar convert: the Conversions menu without the window.
-// The only file of the calculators' command line that uses Qt (for JSON).
-
-#include "cli_calc.h"
+// quilmar calc: one converter or curve calculator of the Conversions menu run
+// on one typed answer, as if ANSWER had been typed into its input box.
+// Plain output: the new `Acresbox` text + "\n"; a message the window would
+// show goes to standard error (text + "\n") with status 2; an answer that
+// changes nothing prints nothing, status 0. --json: one object
+// {"acresbox": text|null, "clipboard": text|null, "messages": [texts]} + "\n",
+// status 2 when a message was shown. Status 1 with the usage for an unknown
+// NAME or a wrong number of arguments.
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -11,15 +15,10 @@
 #include <optional>
 #include <string_view>
 
+#include "cli_commands.h"
 #include "curve_calculator.h"
-#include "cli_options.h"
-#include "engine.h"
-#include "global_conversion.h"
-#include "map_file.h"
 #include "reciprocal_angle.h"
-#include "recording_prompter.h"
 #include "unit_converter.h"
-#include "vb_math.h"
 
 namespace quilmar {
 
@@ -60,34 +59,12 @@ std::optional<Run> calculatorByName(std::string_view name)
     return std::nullopt;
 }
 
-std::optional<GlobalConversion> conversionByName(std::string_view name)
-{
-    if (name == "meters")
-        return GlobalConversion::toFeet(0);
-    if (name == "chains" || name == "links")
-        return GlobalConversion::toFeet(1);
-    if (name == "rods" || name == "perches")
-        return GlobalConversion::toFeet(2);
-    if (name == "furlongs")
-        return GlobalConversion::toFeet(3);
-    if (name == "varas")
-        return GlobalConversion::toFeet(4);
-    if (name == "yards")
-        return GlobalConversion::toFeet(5);
-    if (name == "feet")
-        return GlobalConversion::feetToMeters();
-    return std::nullopt;
-}
-
 const char *const kCalcUsage =
     "usage: quilmar calc [--json] NAME ANSWER\n"
     "  NAME: chains, links, rods, perches, furlongs, varas, yards, feet2meters, meters2feet,\n"
     "        arc, chord, angle, tangent, reciprocal\n"
     "  ANSWER: the whole answer as one argument, e.g. \"150.35 250.50\"\n";
 
-const char *const kConvertUsage =
-    "usage: quilmar convert FROM FILE.map [-o OUT.map]\n"
-    "  FROM: meters, chains (links), rods (perches), furlongs, varas, yards: to feet; feet: to meters\n";
 
 QString qs(const std::string &s) { return QString::fromUtf8(s.data(), qsizetype(s.size())); }
 
@@ -96,24 +73,31 @@ QJsonValue optionalText(const std::optional<std::string> &text)
     return text ? QJsonValue(qs(*text)) : QJsonValue(QJsonValue::Null);
 }
 
-} // namespace
+struct CalcArguments {
+    bool json = false;
+    std::vector<std::string> words; ///< NAME ANSWER
+    const CLI::App *app = nullptr;
+};
 
-int runCalcCommand(const std::vector<std::string> &args, std::string &out, std::string &err)
+int calcUsage(const std::string &, CommandIo &io)
 {
-    size_t first = 0;
-    const bool json = !args.empty() && args[0] == "--json";
-    if (json)
-        first = 1;
-    if (args.size() - first != 2) {
-        err += kCalcUsage;
-        return 1;
-    }
-    const std::optional<Run> run = calculatorByName(args[first]);
+    io.err += kCalcUsage;
+    return 1;
+}
+
+int calc(const CalcArguments &raw, CommandIo &io)
+{
+    std::string &out = io.out;
+    std::string &err = io.err;
+    if (raw.words.size() != 2 || !raw.app->remaining().empty())
+        return calcUsage({}, io);
+    const bool json = raw.json;
+    const std::optional<Run> run = calculatorByName(raw.words[0]);
     if (!run) {
-        err += "quilmar calc: unknown calculator \"" + args[first] + "\"\n" + kCalcUsage;
+        err += "quilmar calc: unknown calculator \"" + raw.words[0] + "\"\n" + kCalcUsage;
         return 1;
     }
-    const CalcResult result = (*run)(args[first + 1]);
+    const CalcResult result = (*run)(raw.words[1]);
     const int status = result.messages.empty() ? 0 : 2;
 
     if (json) {
@@ -134,46 +118,20 @@ int runCalcCommand(const std::vector<std::string> &args, std::string &out, std::
     return status;
 }
 
-int runConvertCommand(const std::vector<std::string> &args, std::string &out, std::string &err)
-{
-    std::vector<std::string> positional;
-    std::string output;
-    for (size_t i = 0; i < args.size(); ++i) {
-        if (args[i] == "-o" && i + 1 < args.size())
-            output = args[++i];
-        else
-            positional.push_back(args[i]);
-    }
-    if (positional.size() != 2) {
-        err += kConvertUsage;
-        return 1;
-    }
-    const std::optional<GlobalConversion> conversion = conversionByName(positional[0]);
-    if (!conversion) {
-        err += "quilmar convert: unknown unit \"" + positional[0] + "\"\n" + kConvertUsage;
-        return 1;
-    }
-    const std::string &input = positional[1];
+} // namespace
 
-    RecordingPrompter prompter;
-    Engine engine(prompter);
-    engine.metrix_Click(Units::Feet);
-    engine.setScaleText("Standard");
-    if (const OpenOutcome opened = engine.openMapFile(input); !opened.ok()) {
-        err += "quilmar convert: " +
-               (opened.status == MapReadStatus::NotFound ? opened.reason : "cannot read " + input + ": " + opened.reason) +
-               "\n";
-        return 1;
-    }
-    // Messages of the drawing that follows an open do not concern the conversion.
-    prompter.take();
-    try {
-        engine.metrix_Click(conversion->apply(engine.editTable()));
-    } catch (const VbError &e) {
-        err += "quilmar convert: " + e.description() + "\n";
-        return 2;
-    }
-    return emitMapFile("convert", engine.mapFileBytes(), output, out, err);
+Command setupCalc(CLI::App &app)
+{
+    auto raw = std::make_shared<CalcArguments>();
+    raw->app = &app;
+    app.add_flag("--json", raw->json, "Print {\"acresbox\", \"clipboard\", \"messages\"} as JSON");
+    app.add_option("words", raw->words, "NAME (chains, links, rods, perches, furlongs, varas, yards, feet2meters, "
+                                        "meters2feet, arc, chord, angle, tangent, reciprocal) and the ANSWER typed "
+                                        "into its input box, as one argument");
+    Command command;
+    command.usageError = calcUsage;
+    command.run = [raw](CommandIo &io) { return calc(*raw, io); };
+    return command;
 }
 
 } // namespace quilmar

@@ -1,23 +1,37 @@
 #pragma once
-// The subcommands of the `quilmar` command line. Each takes the arguments after
-// its name and writes its standard output and standard error into strings, so
-// that tests run them without a process; the return value is the exit status.
+// The subcommands of the `quilmar` command line, one setup function each (see
+// cli.h for how the table in cli.cpp uses them).
 
+#include <functional>
+#include <map>
 #include <string>
-#include <vector>
+
+#include <CLI/CLI.hpp>
+
+#include "cli.h"
 
 namespace quilmar {
 
-using Args = std::vector<std::string>;
+/// A parsed subcommand.
+struct Command {
+    /// Does the work once the arguments are parsed; returns the exit status.
+    std::function<int(CommandIo &)> run;
+    /// Words a bad argument (@p problem, e.g. "--scale needs a scale text") the
+    /// subcommand's way; returns the exit status.
+    std::function<int(const std::string &problem, CommandIo &)> usageError;
+    /// For an option given without its value: the problem to hand usageError.
+    std::map<std::string, std::string> needs;
+};
 
 /// quilmar report [--json] [--scale TEXT] [--units feet|meters|other] [--canvas WxH] FILE.map
-int runReportCommand(const Args &args, std::string &out, std::string &err);
+Command setupReport(CLI::App &app);
 /// quilmar plot [--scale TEXT] [--units U] [--canvas WxH] -o OUT.png|OUT.svg FILE.map
-int runPlotCommand(const Args &args, std::string &out, std::string &err);
+Command setupPlot(CLI::App &app);
 /// quilmar sample N [-o OUT.map]
-int runSampleCommand(const Args &args, std::string &out, std::string &err);
-
-/// The usage text.
-std::string usageText();
+Command setupSample(CLI::App &app);
+/// quilmar calc [--json] NAME ANSWER
+Command setupCalc(CLI::App &app);
+/// quilmar convert FROM FILE.map [-o OUT.map]
+Command setupConvert(CLI::App &app);
 
 } // namespace quilmar

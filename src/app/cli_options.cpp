@@ -1,10 +1,8 @@
 #include "cli_options.h"
 
-#include "cli_commands.h"
-#include "map_file.h"
-
-#include <algorithm>
 #include <charconv>
+
+#include "map_file.h"
 
 namespace quilmar {
 
@@ -20,28 +18,80 @@ bool parseTwips(std::string_view text, float &value)
     return true;
 }
 
-} // namespace
-
-std::string usageText()
+bool given(const CLI::App &app, const char *name)
 {
-    return "usage:\n"
-           "  quilmar report [--json] [--scale TEXT] [--units feet|meters|other] [--canvas WxH] FILE.map\n"
-           "  quilmar plot [--scale TEXT] [--units feet|meters|other] [--canvas WxH] -o OUT.png|OUT.svg FILE.map\n"
-           "  quilmar sample N [-o OUT.map]\n"
-           "  quilmar calc [--json] NAME ANSWER\n"
-           "  quilmar convert FROM FILE.map [-o OUT.map]\n";
+    const CLI::Option *option = app.get_option_no_throw(name);
+    return option && option->count() > 0;
 }
 
-int emitMapFile(const std::string &command, const std::string &bytes, const std::string &output, std::string &out,
-                std::string &err)
+} // namespace
+
+void addMapOptions(CLI::App &app, MapArguments &raw, std::initializer_list<std::string_view> flags, Command &command)
+{
+    raw.app = &app;
+    for (std::string_view flag : flags) {
+        if (flag == "--json") {
+            app.add_flag("--json", raw.json, "Print one JSON object with the legs, the scale and every result");
+        } else if (flag == "--scale") {
+            app.add_option("--scale", raw.scale, "The scale text, overriding the file's (e.g. Standard, 1200)");
+            command.needs["--scale"] = "--scale needs a scale text";
+        } else if (flag == "--units") {
+            app.add_option("--units", raw.units, "The unit option, overriding the file's: feet, meters or other");
+            command.needs["--units"] = "--units needs feet, meters or other";
+        } else if (flag == "--canvas") {
+            app.add_option("--canvas", raw.canvas, "The map canvas in whole twips, WIDTHxHEIGHT (default 7200x4800)");
+            command.needs["--canvas"] = "--canvas needs WIDTHxHEIGHT in twips";
+        } else if (flag == "-o") {
+            app.add_option("-o", raw.output, "The picture to write: OUT.png or OUT.svg");
+            command.needs["-o"] = "-o needs a file name";
+        }
+    }
+    app.add_option("file", raw.files, "The map file (*.map)");
+}
+
+std::string checkMapOptions(const MapArguments &raw, MapCommandOptions &options)
+{
+    for (const std::string &extra : raw.app->remaining())
+        if (extra.size() > 1 && extra[0] == '-')
+            return "unknown option " + extra;
+    options.json = raw.json;
+    if (given(*raw.app, "--scale"))
+        options.overrides.scaleText = raw.scale;
+    if (given(*raw.app, "--units")) {
+        if (raw.units == "feet")
+            options.overrides.units = Units::Feet;
+        else if (raw.units == "meters")
+            options.overrides.units = Units::Meters;
+        else if (raw.units == "other")
+            options.overrides.units = Units::Other;
+        else
+            return "--units must be feet, meters or other, not \"" + raw.units + "\"";
+    }
+    if (given(*raw.app, "--canvas")) {
+        const std::string &c = raw.canvas;
+        const size_t x = c.find('x');
+        if (x == std::string::npos || !parseTwips(std::string_view(c).substr(0, x), options.canvasWidth) ||
+            !parseTwips(std::string_view(c).substr(x + 1), options.canvasHeight))
+            return "--canvas must be WIDTHxHEIGHT in whole twips, e.g. 7200x4800, not \"" + c + "\"";
+    }
+    options.output = raw.output;
+    if (raw.files.size() + raw.app->remaining().size() > 1)
+        return "only one map file can be given";
+    if (raw.files.empty())
+        return "no map file given";
+    options.file = raw.files.front();
+    return {};
+}
+
+int emitMapFile(const std::string &command, const std::string &bytes, const std::string &output, CommandIo &io)
 {
     if (output.empty()) {
-        out += bytes;
+        io.out += bytes;
         return 0;
     }
     std::string problem;
     if (!writeMapFile(output, bytes, &problem)) {
-        err += "quilmar " + command + ": cannot write " + output + ": " + problem + "\n";
+        io.err += "quilmar " + command + ": cannot write " + output + ": " + problem + "\n";
         return 1;
     }
     return 0;
@@ -54,56 +104,6 @@ const char *unitsName(Units units)
     case Units::Meters: return "meters";
     default: return "other";
     }
-}
-
-std::string parseMapOptions(const std::vector<std::string> &args, const std::vector<std::string> &allowed,
-                            MapCommandOptions &options)
-{
-    auto takes = [&](const std::string &flag) { return std::find(allowed.begin(), allowed.end(), flag) != allowed.end(); };
-    for (size_t i = 0; i < args.size(); ++i) {
-        const std::string &a = args[i];
-        const bool hasValue = i + 1 < args.size();
-        if (a == "--json" && takes(a)) {
-            options.json = true;
-        } else if (a == "--scale" && takes(a)) {
-            if (!hasValue)
-                return "--scale needs a scale text";
-            options.overrides.scaleText = args[++i];
-        } else if (a == "--units" && takes(a)) {
-            if (!hasValue)
-                return "--units needs feet, meters or other";
-            const std::string &u = args[++i];
-            if (u == "feet")
-                options.overrides.units = Units::Feet;
-            else if (u == "meters")
-                options.overrides.units = Units::Meters;
-            else if (u == "other")
-                options.overrides.units = Units::Other;
-            else
-                return "--units must be feet, meters or other, not \"" + u + "\"";
-        } else if (a == "--canvas" && takes(a)) {
-            if (!hasValue)
-                return "--canvas needs WIDTHxHEIGHT in twips";
-            const std::string &c = args[++i];
-            const size_t x = c.find('x');
-            if (x == std::string::npos || !parseTwips(std::string_view(c).substr(0, x), options.canvasWidth) ||
-                !parseTwips(std::string_view(c).substr(x + 1), options.canvasHeight))
-                return "--canvas must be WIDTHxHEIGHT in whole twips, e.g. 7200x4800, not \"" + c + "\"";
-        } else if (a == "-o" && takes(a)) {
-            if (!hasValue)
-                return "-o needs a file name";
-            options.output = args[++i];
-        } else if (a.size() > 1 && a[0] == '-') {
-            return "unknown option " + a;
-        } else if (options.file.empty()) {
-            options.file = a;
-        } else {
-            return "only one map file can be given";
-        }
-    }
-    if (options.file.empty())
-        return "no map file given";
-    return {};
 }
 
 } // namespace quilmar

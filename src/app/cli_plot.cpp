@@ -7,7 +7,6 @@
 #include <memory>
 
 #include "canvas_image.h"
-#include "cli_commands.h"
 #include "cli_options.h"
 #include "recording_prompter.h"
 
@@ -25,17 +24,18 @@ bool endsWith(const std::string &s, const std::string &suffix)
     return true;
 }
 
-} // namespace
-
-int runPlotCommand(const Args &args, std::string &out, std::string &err)
+int usageError(const std::string &problem, CommandIo &io)
 {
-    (void)out;
+    io.err += "quilmar plot: " + problem + "\n" + usageText();
+    return 1;
+}
+
+int plot(const MapArguments &raw, CommandIo &io)
+{
+    std::string &err = io.err;
     MapCommandOptions options;
-    if (std::string problem = parseMapOptions(args, {"--scale", "--units", "--canvas", "-o"}, options);
-        !problem.empty()) {
-        err += "quilmar plot: " + problem + "\n" + usageText();
-        return 1;
-    }
+    if (std::string problem = checkMapOptions(raw, options); !problem.empty())
+        return usageError(problem, io);
     const bool svg = endsWith(options.output, ".svg");
     if (options.output.empty() || (!svg && !endsWith(options.output, ".png"))) {
         err += "quilmar plot: give the picture with -o OUT.png or -o OUT.svg\n";
@@ -72,6 +72,18 @@ int runPlotCommand(const Args &args, std::string &out, std::string &err)
         return 1;
     }
     return 0;
+}
+
+} // namespace
+
+Command setupPlot(CLI::App &app)
+{
+    auto raw = std::make_shared<MapArguments>();
+    Command command;
+    addMapOptions(app, *raw, {"--scale", "--units", "--canvas", "-o"}, command);
+    command.usageError = usageError;
+    command.run = [raw](CommandIo &io) { return plot(*raw, io); };
+    return command;
 }
 
 } // namespace quilmar

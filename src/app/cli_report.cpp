@@ -8,7 +8,6 @@
 #include <charconv>
 #include <cmath>
 
-#include "cli_commands.h"
 #include "cli_options.h"
 #include "recording_prompter.h"
 #include "vb_math.h"
@@ -71,14 +70,21 @@ QJsonArray legsJson(const Engine &engine)
 
 } // namespace
 
-int runReportCommand(const Args &args, std::string &out, std::string &err)
+namespace {
+
+int usageError(const std::string &problem, CommandIo &io)
 {
+    io.err += "quilmar report: " + problem + "\n" + usageText();
+    return 1;
+}
+
+int report(const MapArguments &raw, CommandIo &io)
+{
+    std::string &out = io.out;
+    std::string &err = io.err;
     MapCommandOptions options;
-    if (std::string problem = parseMapOptions(args, {"--json", "--scale", "--units", "--canvas"}, options);
-        !problem.empty()) {
-        err += "quilmar report: " + problem + "\n" + usageText();
-        return 1;
-    }
+    if (std::string problem = checkMapOptions(raw, options); !problem.empty())
+        return usageError(problem, io);
     RecordingPrompter prompter;
     Engine engine(prompter);
     engine.setCanvasSize(options.canvasWidth, options.canvasHeight);
@@ -97,7 +103,8 @@ int runReportCommand(const Args &args, std::string &out, std::string &err)
     const std::string autoscale = engine.autoscalebox();
     const PointF pob = engine.state().pob;
     const PointF end = engine.state().pen;
-    const QJsonArray legs = legsJson(engine);
+    // The legs as the open computed them; only the JSON shows them.
+    const QJsonArray legs = options.json ? legsJson(engine) : QJsonArray();
     const int highest = engine.table().highest;
 
     engine.mnuGap_Click();
@@ -139,6 +146,18 @@ int runReportCommand(const Args &args, std::string &out, std::string &err)
     root["commands"] = commands;
     out += QJsonDocument(root).toJson(QJsonDocument::Indented).toStdString();
     return 0;
+}
+
+} // namespace
+
+Command setupReport(CLI::App &app)
+{
+    auto raw = std::make_shared<MapArguments>();
+    Command command;
+    addMapOptions(app, *raw, {"--json", "--scale", "--units", "--canvas"}, command);
+    command.usageError = usageError;
+    command.run = [raw](CommandIo &io) { return report(*raw, io); };
+    return command;
 }
 
 } // namespace quilmar

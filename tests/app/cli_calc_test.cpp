@@ -1,4 +1,4 @@
-#include "cli_calc.h"
+#include "cli.h"
 
 #include <filesystem>
 #include <fstream>
@@ -15,11 +15,18 @@ struct CommandRun {
     std::string err;
 };
 
+// Runs `quilmar NAME args...` without a process.
+CommandRun run(const char *name, std::vector<std::string> args)
+{
+    args.insert(args.begin(), name);
+    CommandIo io;
+    const int status = runCommandLine(args, io);
+    return {status, io.out, io.err};
+}
+
 CommandRun calc(std::vector<std::string> args)
 {
-    CommandRun r;
-    r.status = runCalcCommand(args, r.out, r.err);
-    return r;
+    return run("calc", std::move(args));
 }
 
 TEST(CliCalc, PlainOutput)
@@ -84,9 +91,7 @@ protected:
     }
     CommandRun convert(std::vector<std::string> args)
     {
-        CommandRun r;
-        r.status = runConvertCommand(args, r.out, r.err);
-        return r;
+        return run("convert", std::move(args));
     }
 
     std::filesystem::path m_dir;

@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "cli_commands.h"
+#include "cli.h"
 
 using namespace quilmar;
 
@@ -30,10 +30,21 @@ std::string writeFile(const std::string &name, const std::string &bytes)
     return path.string();
 }
 
+// Runs `quilmar NAME args...` without a process.
+int run(const char *name, Args args, std::string &out, std::string &err)
+{
+    args.insert(args.begin(), name);
+    CommandIo io;
+    const int status = runCommandLine(args, io);
+    out = io.out;
+    err = io.err;
+    return status;
+}
+
 std::string sampleFile(int n)
 {
     std::string out, err;
-    EXPECT_EQ(runSampleCommand({std::to_string(n)}, out, err), 0);
+    EXPECT_EQ(run("sample", {std::to_string(n)}, out, err), 0);
     return writeFile("sample" + std::to_string(n) + ".map", out);
 }
 
@@ -45,7 +56,7 @@ struct Outcome {
 Outcome report(const Args &args)
 {
     Outcome r;
-    r.status = runReportCommand(args, r.out, r.err);
+    r.status = run("report", args, r.out, r.err);
     return r;
 }
 
@@ -170,12 +181,12 @@ TEST(CliReport, BadInput)
 TEST(CliSample, WritesTheSampleAsSaveAsWould)
 {
     std::string out, err;
-    ASSERT_EQ(runSampleCommand({"6"}, out, err), 0);
+    ASSERT_EQ(run("sample", {"6"}, out, err), 0);
     EXPECT_TRUE(out.starts_with("S\t\t\t\t\t100\t\t\t\tO\r\nS\t45\t\t\tE\t75\t\t\t\tB\r\n"));
     EXPECT_NE(out.find("\r\n~This is a sample of a lot that closes from TWO sides."), std::string::npos);
     EXPECT_TRUE(out.ends_with("Help menu again.\r\n*spec=0Standard\r\n"));
     for (const char *bad : {"0", "7", "x", ""}) {
         std::string o, e;
-        EXPECT_EQ(runSampleCommand({bad}, o, e), 1) << bad;
+        EXPECT_EQ(run("sample", {bad}, o, e), 1) << bad;
     }
 }
