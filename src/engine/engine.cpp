@@ -76,7 +76,7 @@ const DrawResult &Engine::mindraw(const DrawRequest &request)
             try {
                 if (m_metricFactor == 0.0f)
                     m_metricFactor = 1.0f;
-                m_autoscalebox = autoScaleCaption(m_scale, m_scaleFactor);
+                m_autoScale = autoScaleNumber(m_scale, m_scaleFactor);
             } catch (const VbError &) {
                 message = walkStopMessage(WalkStop::DrawFault);
             }
@@ -109,10 +109,26 @@ void Engine::markEnd()
 void Engine::buildAreaTexts()
 {
     const double squareUnits = fdiv(fdiv(std::fabs(double(m_state.areaSum)), m_scaleFactor), m_scaleFactor);
-    m_imperialText = formatNumber(squareUnits / 43560.0, "Standard") + " acres [" +
-                     formatNumber(squareUnits, "standard") + " sq ft]";
-    m_metricText = formatNumber(squareUnits, "###") + " Square Meters [" +
-                   formatNumber(squareUnits / 10000.0, "Standard") + " Ha]";
+    m_imperialSquareUnits = squareUnits;
+    m_metricSquareUnits = squareUnits;
+}
+
+std::string Engine::imperialText() const
+{
+    if (!m_imperialSquareUnits)
+        return {};
+    const double squareUnits = *m_imperialSquareUnits;
+    return formatNumber(squareUnits / 43560.0, "Standard") + " acres [" + formatNumber(squareUnits, "standard") +
+           " sq ft]";
+}
+
+std::string Engine::metricText() const
+{
+    if (!m_metricSquareUnits)
+        return {};
+    const double squareUnits = *m_metricSquareUnits;
+    return formatNumber(squareUnits, "###") + " Square Meters [" + formatNumber(squareUnits / 10000.0, "Standard") +
+           " Ha]";
 }
 
 } // namespace quilmar

@@ -128,7 +128,8 @@ public:
     CanvasView canvasView() const { return m_draw.view; }
     float scaleFactor() const { return m_scaleFactor; }
     const std::string &acresbox() const { return m_acresbox; }
-    const std::string &autoscalebox() const { return m_autoscalebox; }
+    /// `Autoscalebox`: "AutoScale = N" after a fitted draw, "" otherwise.
+    std::string autoscalebox() const { return m_autoScale ? autoScaleCaption(*m_autoScale) : std::string(); }
     const std::string &description() const { return m_description; }
     const std::string &scaleText() const { return m_scale.scaleText; }
     Units units() const { return m_scale.units; }
@@ -136,8 +137,10 @@ public:
     const PrintOptions &printOptions() const { return m_printOptions; }
     /// The File menu's flag: true once any mindraw has computed a map.
     bool mapComputed() const { return m_mapComputed; }
-    const std::string &imperialText() const { return m_imperialText; }
-    const std::string &metricText() const { return m_metricText; }
+    /// The area texts of the last draw: "A acres [S sq ft]" and
+    /// "S Square Meters [H Ha]" (built when asked; "" before any draw).
+    std::string imperialText() const;
+    std::string metricText() const;
 
     // --- the window's entries --------------------------------------------------------
     /// The one entry through which the grid (and the global conversion) edit the table.
@@ -175,10 +178,12 @@ private:
     bool m_skipOnce = false;
     bool m_mapComputed = false;
     std::string m_acresbox;
-    std::string m_autoscalebox;
     std::string m_description;
-    std::string m_imperialText;
-    std::string m_metricText;
+    // The numbers behind Autoscalebox and the two area texts; their texts are
+    // built only when read, so that a draw formats nothing.
+    std::optional<double> m_autoScale;
+    std::optional<double> m_imperialSquareUnits;
+    std::optional<double> m_metricSquareUnits;
 };
 
 } // namespace quilmar

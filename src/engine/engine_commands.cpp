@@ -97,9 +97,9 @@ void Engine::mnuAcres_Click()
     try {
         if (areaGapTooLarge(false))
             return;
-        m_imperialText.clear();
+        m_imperialSquareUnits.reset();
         mindraw({.areaMode = true, .perimeterMode = m_perimeterModeLeftOn});
-        m_acresbox = m_imperialText;
+        m_acresbox = imperialText();
     } catch (const VbError &e) {
         showError(e.description());
     }
@@ -110,9 +110,9 @@ void Engine::mnuHectares_Click()
     try {
         if (areaGapTooLarge(true))
             return;
-        m_metricText.clear();
+        m_metricSquareUnits.reset();
         mindraw({.areaMode = true, .perimeterMode = m_perimeterModeLeftOn});
-        m_acresbox = m_metricText;
+        m_acresbox = metricText();
     } catch (const VbError &e) {
         showError(e.description());
     }

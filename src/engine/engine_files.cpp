@@ -10,7 +10,7 @@ OpenOutcome Engine::openMapFile(const std::string &path, const OpenOverrides &ov
 {
     m_description.clear();
     m_acresbox.clear();
-    m_autoscalebox.clear();
+    m_autoScale.reset();
     m_draw.figure.clear();
 
     MapReadResult read = readMapFile(path);
@@ -46,7 +46,7 @@ void Engine::loadDemoSample(int n)
     const DemoSample &sample = demoSample(n);
     m_table.erase();
     m_acresbox.clear();
-    m_autoscalebox.clear();
+    m_autoScale.reset();
     m_draw.figure.clear();
     m_description = sample.note;
     loadDemoRows(sample, m_table);

@@ -14,25 +14,25 @@ namespace {
 // The bearing code of a row: its N/S and E/W cells taken together, as typed.
 enum class Code : uint8_t { NE, NW, SE, SW, TurnRight, TurnLeft, Blank, Other };
 
-// True when a + b (not built) equals @p text.
-bool joinedEquals(std::string_view a, std::string_view b, std::string_view text)
-{
-    return a.size() + b.size() == text.size() && text.substr(0, a.size()) == a && text.substr(a.size()) == b;
-}
-
 // The code of N/S + E/W. "N" and "S" alone count as "NE" and "SE"; "+" and "-"
 // (blanks around them aside) turn from the running direction; all blanks is a
 // tangent course; anything else keeps the typed angle as the direction.
 Code readCode(std::string_view ns, std::string_view ew)
 {
-    if (joinedEquals(ns, ew, "NE") || joinedEquals(ns, ew, "N"))
-        return Code::NE;
-    if (joinedEquals(ns, ew, "NW"))
-        return Code::NW;
-    if (joinedEquals(ns, ew, "SE") || joinedEquals(ns, ew, "S"))
-        return Code::SE;
-    if (joinedEquals(ns, ew, "SW"))
-        return Code::SW;
+    const size_t length = ns.size() + ew.size();
+    if (length == 1 || length == 2) {
+        // The joined text, without building it.
+        const char first = ns.empty() ? ew[0] : ns[0];
+        const char second = length == 1 ? '\0' : ns.size() == 2 ? ns[1] : ew[ew.size() - 1];
+        if (first == 'N' && (second == 'E' || second == '\0'))
+            return Code::NE;
+        if (first == 'N' && second == 'W')
+            return Code::NW;
+        if (first == 'S' && (second == 'E' || second == '\0'))
+            return Code::SE;
+        if (first == 'S' && second == 'W')
+            return Code::SW;
+    }
     // The joined text trimmed of blanks is one part trimmed when the other part
     // is all blanks; with both parts non-blank it is longer than one character.
     const std::string_view a = trimBlanks(ns), b = trimBlanks(ew);

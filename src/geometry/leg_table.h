@@ -29,7 +29,7 @@ enum class CurveSide : uint8_t { None, Left, Right };
 /// The tag a typed cell text stands for.
 inline Tag readTag(std::string_view typed)
 {
-    const std::string_view t = trimBlanks(typed);
+    const std::string_view t = typed.size() == 1 ? typed : trimBlanks(typed);
     if (t.size() != 1)
         return Tag::None;
     switch (t[0]) {
@@ -44,7 +44,7 @@ inline Tag readTag(std::string_view typed)
 /// The curve side a typed cell text stands for.
 inline CurveSide readCurveSide(std::string_view typed)
 {
-    const std::string_view t = trimBlanks(typed);
+    const std::string_view t = typed.size() == 1 ? typed : trimBlanks(typed);
     return t == "L" ? CurveSide::Left : t == "R" ? CurveSide::Right : CurveSide::None;
 }
 

@@ -124,12 +124,16 @@ FitResult rescaling(const LegTable &legs, const ScaleChoice &choice, float width
     return fit;
 }
 
-std::string autoScaleCaption(const ScaleChoice &choice, float scaleFactor)
+double autoScaleNumber(const ScaleChoice &choice, float scaleFactor)
 {
     const double base = choice.units == Units::Feet ? choice.scaleEnglish : choice.scaleMetric;
-    const double n = fdiv(base, 2.0 * scaleFactor);
-    if (n > 1.0)
-        return "AutoScale = " + formatNumber(n, "##0");
+    return fdiv(base, 2.0 * scaleFactor);
+}
+
+std::string autoScaleCaption(double number)
+{
+    if (number > 1.0)
+        return "AutoScale = " + formatNumber(number, "##0");
     return {};
 }
 

@@ -40,10 +40,20 @@ struct FitResult {
 FitResult rescaling(const LegTable &legs, const ScaleChoice &choice, float width, float height, bool printing,
                     float previousScaleFactor, TraverseState &state, GapShares &shares);
 
-/// The AutoScale caption for a fit: "AutoScale = " and the printed scale number
-/// (twips per unit at scale 1 over twice the factor, format "##0") when that
-/// number is above 1, else "".
+/// The printed scale number of a fit: twips per unit at scale 1 over twice the
+/// factor.
 /// @throws VbError Division by zero for a factor of 0
-std::string autoScaleCaption(const ScaleChoice &choice, float scaleFactor);
+double autoScaleNumber(const ScaleChoice &choice, float scaleFactor);
+
+/// The AutoScale caption of a scale number: "AutoScale = " and the number
+/// formatted "##0" when it is above 1, else "".
+std::string autoScaleCaption(double number);
+
+/// autoScaleCaption(autoScaleNumber(choice, scaleFactor)).
+/// @throws VbError Division by zero for a factor of 0
+inline std::string autoScaleCaption(const ScaleChoice &choice, float scaleFactor)
+{
+    return autoScaleCaption(autoScaleNumber(choice, scaleFactor));
+}
 
 } // namespace quilmar
