@@ -1,6 +1,8 @@
 #include "course_conversion.h"
 
+#include <bit>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 
 #include "curves.h"
@@ -76,9 +78,8 @@ void convertCourses(CourseTable &table, LegTable &legs, const MessageFn &message
     int counter = 0;
     for (int i = 0; i <= last; ++i) {
         Leg &leg = legs[i];
+        const std::optional<float> previous = leg.direction;
         leg.direction.reset();
-        leg.cosine = 1.0;
-        leg.sine = 0.0;
         ++counter;
         std::string_view ns = table.at(i, ColNS).text();
         std::string_view ew = table.at(i, ColEW).text();
@@ -170,7 +171,14 @@ void convertCourses(CourseTable &table, LegTable &legs, const MessageFn &message
             leg.direction = direction;
             running = direction;
         }
-        if (leg.direction) {
+        // Every command redraws the same table: a row whose direction is the
+        // same single as last time (bit for bit) keeps its cosine and sine.
+        const bool same = previous.has_value() == leg.direction.has_value() &&
+                          (!previous || std::bit_cast<uint32_t>(*previous) == std::bit_cast<uint32_t>(*leg.direction));
+        if (!leg.direction) {
+            leg.cosine = 1.0;
+            leg.sine = 0.0;
+        } else if (!same) {
             const double a = double(*leg.direction) * kPi / 180.0;
             leg.cosine = std::cos(a);
             leg.sine = std::sin(a);

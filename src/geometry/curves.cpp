@@ -63,7 +63,12 @@ CurveOutcome traceCurve(bool right, PointF &pen, const ChordDirection &direction
             return CurveOutcome::Traced;
         const PointF start = pen;
         const PointF end{sng(start.x + chord * direction.cosine), sng(start.y + chord * direction.sine)};
-        const double h = fsqrt(double(radius) * radius - double(chord) * chord / 4.0);
+        // A chord longer than the diameter cannot be traced; said without a
+        // thrown fault, since a close that cannot be made is common.
+        const double rootOf = double(radius) * radius - double(chord) * chord / 4.0;
+        if (rootOf < 0.0)
+            return CurveOutcome::Fault;
+        const double h = std::sqrt(rootOf);
         const double beta = std::atan(fdiv(h, chord / 2.0));
         const double toCentre = right ? direction.radians + beta : direction.radians - beta;
         const PointF centre{sng(start.x + radius * std::cos(toCentre)), sng(start.y + radius * std::sin(toCentre))};

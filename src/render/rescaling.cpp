@@ -10,16 +10,29 @@
 
 namespace quilmar {
 
+namespace {
+
+// True when @p text equals the upper-case @p word, letters compared upper-cased.
+bool equalsUpper(std::string_view text, std::string_view word)
+{
+    if (text.size() != word.size())
+        return false;
+    for (size_t i = 0; i < text.size(); ++i)
+        if (std::toupper(static_cast<unsigned char>(text[i])) != word[i])
+            return false;
+    return true;
+}
+
+} // namespace
+
 double levelFactor(std::string_view scaleText)
 {
-    std::string t(trimBlanks(scaleText));
-    for (char &ch : t)
-        ch = char(std::toupper(static_cast<unsigned char>(ch)));
-    if (t == "MINIMUM")
+    const std::string_view t = trimBlanks(scaleText);
+    if (equalsUpper(t, "MINIMUM"))
         return 0.36;
-    if (t == "SMALL")
+    if (equalsUpper(t, "SMALL"))
         return 0.48;
-    if (t == "MAXIMUM")
+    if (equalsUpper(t, "MAXIMUM"))
         return 0.96;
     return 0.72;
 }

@@ -231,3 +231,20 @@ TEST(Engine, FigureMarksTheBeginningAndTheEnd)
     EXPECT_FLOAT_EQ(f.engine.scaleFactor(), 34.56f);
     EXPECT_EQ(f.engine.autoscalebox(), "AutoScale = 21"); // 1440 / 69.12 = 20.83
 }
+
+// Guards the reuse of each row's cosine and sine between draws: after an edit
+// that turns every later course, a redraw must match a fresh engine's draw.
+TEST(Engine, RedrawAfterAnEditMatchesAFreshDraw)
+{
+    const std::initializer_list<Row> before{kBegin, {"N", "30", "", "", "E", "100", "", "", "", ""},
+                                            {"+", "40", "", "", "", "80", "", "", "", ""},
+                                            {"", "", "", "", "", "60", "", "50", "R", ""}, straight("S", "50")};
+    Fixture edited{before};
+    edited.engine.editTable().at(1, ColDeg) = Cell(std::string("35"));
+    edited.engine.redraw();
+    Fixture fresh{kBegin, {"N", "35", "", "", "E", "100", "", "", "", ""}, {"+", "40", "", "", "", "80", "", "", "", ""},
+                  {"", "", "", "", "", "60", "", "50", "R", ""}, straight("S", "50")};
+    EXPECT_EQ(edited.engine.state().pen, fresh.engine.state().pen);
+    EXPECT_EQ(edited.engine.figure().items.size(), fresh.engine.figure().items.size());
+    EXPECT_EQ(edited.engine.canvasView().scaleLeft, fresh.engine.canvasView().scaleLeft);
+}
