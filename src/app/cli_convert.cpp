@@ -75,10 +75,7 @@ int convert(const ConvertArguments &raw, CommandIo &io)
     engine.metrix_Click(Units::Feet);
     engine.setScaleText("Standard");
     if (const OpenOutcome opened = engine.openMapFile(input); !opened.ok()) {
-        io.err += "quilmar convert: " +
-                  (opened.status == MapReadStatus::NotFound ? opened.reason
-                                                            : "cannot read " + input + ": " + opened.reason) +
-                  "\n";
+        io.err += "quilmar convert: " + opened.reason + "\n";
         return 1;
     }
     // Messages of the drawing that follows an open do not concern the conversion.

@@ -85,13 +85,13 @@ std::string checkMapOptions(const MapArguments &raw, MapCommandOptions &options)
 
 int emitMapFile(const std::string &command, const std::string &bytes, const std::string &output, CommandIo &io)
 {
-    if (output.empty()) {
+    if (output.empty() || output == "-") {
         io.out += bytes;
         return 0;
     }
     std::string problem;
     if (!writeMapFile(output, bytes, &problem)) {
-        io.err += "quilmar " + command + ": cannot write " + output + ": " + problem + "\n";
+        io.err += "quilmar " + command + ": " + problem + "\n";
         return 1;
     }
     return 0;

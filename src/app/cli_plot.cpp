@@ -41,8 +41,8 @@ int plot(const MapArguments &raw, CommandIo &io)
         err += "quilmar plot: give the picture with -o OUT.png or -o OUT.svg\n";
         return 1;
     }
-    if (options.canvasWidth < 1 || options.canvasHeight < 1) {
-        err += "quilmar plot: the canvas must be at least 1x1 twips\n";
+    if (std::string problem = pictureSizeProblem(options.canvasWidth, options.canvasHeight); !problem.empty()) {
+        err += "quilmar plot: " + problem + "\n";
         return 1;
     }
     std::unique_ptr<QGuiApplication> app;
@@ -56,19 +56,20 @@ int plot(const MapArguments &raw, CommandIo &io)
     RecordingPrompter prompter;
     Engine engine(prompter);
     engine.setCanvasSize(options.canvasWidth, options.canvasHeight);
-    if (!engine.openMapFile(options.file, options.overrides).ok()) {
+    if (const OpenOutcome opened = engine.openMapFile(options.file, options.overrides); !opened.ok()) {
         for (const std::string &m : prompter.take())
             err += m + "\n";
-        err += "quilmar plot: cannot read the map file " + options.file + "\n";
+        if (!opened.reason.empty() && opened.status != MapReadStatus::NotFound)
+            err += "quilmar plot: " + opened.reason + "\n";
         return 1;
     }
     for (const std::string &m : prompter.take())
         err += "! " + m + "\n";
     const QString path = QString::fromStdString(options.output);
-    const bool written = svg ? writeFigureSvg(path, engine.figure(), engine.canvasView(), kCanvasGrey)
-                             : writeFigurePng(path, engine.figure(), engine.canvasView(), kCanvasGrey);
-    if (!written) {
-        err += "quilmar plot: cannot write " + options.output + "\n";
+    const FileOutcome written = svg ? writeFigureSvg(path, engine.figure(), engine.canvasView(), kCanvasGrey)
+                                    : writeFigurePng(path, engine.figure(), engine.canvasView(), kCanvasGrey);
+    if (!written.ok) {
+        err += "quilmar plot: " + written.error + "\n";
         return 1;
     }
     return 0;

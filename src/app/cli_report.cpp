@@ -90,13 +90,13 @@ int report(const MapArguments &raw, CommandIo &io)
     engine.setCanvasSize(options.canvasWidth, options.canvasHeight);
 
     std::vector<CommandRecord> records;
-    const bool opened = engine.openMapFile(options.file, options.overrides).ok();
+    const OpenOutcome opened = engine.openMapFile(options.file, options.overrides);
     records.push_back({"open", engine.acresbox(), prompter.take()});
-    if (!opened) {
+    if (!opened.ok()) {
         for (const std::string &m : records.back().messages)
             err += m + "\n";
         if (records.back().messages.empty())
-            err += "Cannot read the map file " + options.file + ".\n";
+            err += opened.reason + "\n";
         return 1;
     }
     const float scaleFactor = engine.scaleFactor();

@@ -1,6 +1,7 @@
 // Saving a map file: building its bytes, writing them safely, naming the file.
 
 #include "map_file.h"
+#include "safe_file.h"
 
 #include <algorithm>
 #include <fstream>
@@ -71,58 +72,10 @@ std::string mapFileBytes(const CourseTable &table, const std::string &descriptio
 
 bool writeMapFile(const std::string &path, const std::string &bytes, std::string *error)
 {
-    namespace fs = std::filesystem;
-    const auto fail = [&](const std::string &reason) {
-        if (error)
-            *error = "Cannot write " + path + ": " + reason;
-        return false;
-    };
-    if (path.empty())
-        return fail("no file name");
-
-    std::error_code ec;
-    fs::path target = pathFromUtf8(path);
-    if (fs::is_symlink(target, ec)) {
-        const fs::path resolved = fs::weakly_canonical(target, ec);
-        if (!ec)
-            target = resolved;
-    }
-    const fs::file_status old = fs::status(target, ec);
-    if (fs::is_directory(old))
-        return fail("it is a folder");
-    // Replacing by rename would get past a read-only file; refuse as a plain write would.
-    // Opening for append checks this without changing the old content.
-    if (fs::exists(old) && !std::ofstream(target, std::ios::binary | std::ios::app))
-        return fail("the file is read-only or locked");
-
-    // A fresh name beside the target, so the final rename stays on one file system.
-    std::mt19937 random{std::random_device{}()};
-    fs::path temp;
-    do {
-        temp = target;
-        temp += ".~" + std::to_string(random() % 1000000u) + ".tmp";
-    } while (fs::exists(temp, ec));
-
-    {
-        std::ofstream out(temp, std::ios::binary | std::ios::trunc);
-        if (!out)
-            return fail("the file cannot be created");
-        out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-        out.close();
-        if (out.fail()) {
-            fs::remove(temp, ec);
-            return fail("the data could not be written (disk full?)");
-        }
-    }
-    if (fs::exists(old))
-        fs::permissions(temp, old.permissions(), ec); // best effort only
-    fs::rename(temp, target, ec);
-    if (ec) {
-        const std::string reason = ec.message();
-        fs::remove(temp, ec);
-        return fail(reason);
-    }
-    return true;
+    const FileOutcome outcome = writeFileSafely(path, bytes);
+    if (!outcome.ok && error)
+        *error = outcome.error;
+    return outcome.ok;
 }
 
 std::string withMapExtension(const std::string &chosenName)

@@ -6,6 +6,7 @@
 
 #include "cp1252.h"
 #include "map_file.h"
+#include "safe_file.h"
 #include "utf8_path.h"
 
 namespace quilmar {
@@ -56,11 +57,11 @@ void takeApart(std::string_view bytes, MapReadResult &result)
     result.description = cp1252ToUtf8(description);
 }
 
-MapReadResult failed(const std::string &path, const std::string &reason)
+MapReadResult failed(std::string message)
 {
     MapReadResult result;
     result.status = MapReadStatus::Failed;
-    result.message = "Cannot read " + path + ": " + reason;
+    result.message = std::move(message);
     return result;
 }
 
@@ -73,37 +74,21 @@ std::string fileNotFoundMessage(const std::string &name)
 
 MapReadResult readMapFile(const std::string &path)
 {
-    std::error_code ec;
-    const fs::path file = pathFromUtf8(path);
-    const fs::file_status status = fs::status(file, ec);
-    if (status.type() == fs::file_type::not_found) {
+    std::string bytes;
+    const FileOutcome read = readFileLimited(path, kMaxMapFileBytes, bytes);
+    if (read.problem == FileProblem::NotFound) {
         // A missing folder is the classic "Path not found", which has no message.
-        const fs::path folder = file.parent_path();
+        std::error_code ec;
+        const fs::path folder = pathFromUtf8(path).parent_path();
         if (!folder.empty() && !fs::is_directory(folder, ec))
-            return failed(path, "the folder does not exist");
+            return failed("Cannot read " + path + ": the folder does not exist.");
         MapReadResult result;
         result.status = MapReadStatus::NotFound;
         result.message = fileNotFoundMessage(path);
         return result;
     }
-    if (ec)
-        return failed(path, ec.message());
-    // Devices and pipes could block or never end.
-    if (!fs::is_regular_file(status))
-        return failed(path, "it is not a file");
-    const std::uintmax_t size = fs::file_size(file, ec);
-    if (ec)
-        return failed(path, ec.message());
-    if (size > kMaxMapFileBytes)
-        return failed(path, "the file is too large to be a map file");
-
-    std::ifstream in(file, std::ios::binary);
-    if (!in)
-        return failed(path, "the file cannot be opened");
-    std::string bytes(static_cast<std::size_t>(size), '\0');
-    in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    if (in.bad() || static_cast<std::uintmax_t>(in.gcount()) != size)
-        return failed(path, "the file could not be read");
+    if (!read.ok)
+        return failed(read.error);
 
     MapReadResult result;
     result.status = MapReadStatus::Ok;

@@ -50,12 +50,12 @@ TEST(CanvasImage, WritesPngAndSvgFiles)
 {
     QTemporaryDir dir;
     ASSERT_TRUE(dir.isValid());
-    ASSERT_TRUE(writeFigurePng(dir.filePath("map.png"), twoLegs(), CanvasView{0, 0, 3000, 1500}, kCanvasGrey));
+    ASSERT_TRUE(writeFigurePng(dir.filePath("map.png"), twoLegs(), CanvasView{0, 0, 3000, 1500}, kCanvasGrey).ok);
     const QImage back(dir.filePath("map.png"));
     ASSERT_EQ(back.size(), QSize(200, 100));
     EXPECT_EQ(pixel(back, 50, 20), kBlue); // twip row 300 / 15
 
-    ASSERT_TRUE(writeFigureSvg(dir.filePath("map.svg"), twoLegs(), CanvasView{0, 0, 3000, 1500}, kCanvasGrey));
+    ASSERT_TRUE(writeFigureSvg(dir.filePath("map.svg"), twoLegs(), CanvasView{0, 0, 3000, 1500}, kCanvasGrey).ok);
     QFile file(dir.filePath("map.svg"));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QString svg = QString::fromUtf8(file.readAll());
@@ -64,8 +64,8 @@ TEST(CanvasImage, WritesPngAndSvgFiles)
     EXPECT_TRUE(svg.contains("#c0c0c0")) << "background not filled";
     EXPECT_TRUE(svg.contains("#000080") && (svg.contains("<polyline") || svg.contains("<path")));
 
-    EXPECT_FALSE(writeFigurePng(dir.filePath("missing/map.png"), twoLegs(), CanvasView{0, 0, 3000, 1500}, kCanvasGrey));
-    EXPECT_FALSE(writeFigureSvg(dir.filePath("missing/map.svg"), twoLegs(), CanvasView{0, 0, 3000, 1500}, kCanvasGrey));
+    EXPECT_FALSE(writeFigurePng(dir.filePath("missing/map.png"), twoLegs(), CanvasView{0, 0, 3000, 1500}, kCanvasGrey).ok);
+    EXPECT_FALSE(writeFigureSvg(dir.filePath("missing/map.svg"), twoLegs(), CanvasView{0, 0, 3000, 1500}, kCanvasGrey).ok);
 }
 
 } // namespace

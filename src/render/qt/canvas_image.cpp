@@ -1,11 +1,11 @@
 #include "canvas_image.h"
 
+#include <cmath>
 #include <cstdint>
 
 #include <QBuffer>
 #include <QPainter>
 #include <QRegularExpression>
-#include <QSaveFile>
 #include <QSvgGenerator>
 
 #include "device_mapping.h"
@@ -34,13 +34,31 @@ void paintCanvas(QPainter &painter, QSize size, const Figure &figure, float scal
     paintFigure(figure, surface, Target::Screen);
 }
 
+FileOutcome refused(const std::string &reason)
+{
+    return {false, FileProblem::Other, reason};
+}
+
 } // namespace
+
+std::string pictureSizeProblem(float widthTwips, float heightTwips, int twipsPerPixel)
+{
+    // Checked in floating point first: a canvas of billions of twips must not wrap around.
+    if (!(widthTwips >= 1 && heightTwips >= 1) || twipsPerPixel <= 0)
+        return "the canvas must be at least 1x1 twips";
+    const double columns = std::ceil(double(int64_t(widthTwips)) / twipsPerPixel);
+    const double rows = std::ceil(double(int64_t(heightTwips)) / twipsPerPixel);
+    if (columns * rows > double(kMaxPicturePixels))
+        return "the canvas of " + std::to_string(int64_t(columns)) + "x" + std::to_string(int64_t(rows))
+            + " pixels is larger than the limit of 100 megapixels";
+    return {};
+}
 
 QImage renderFigureImage(const Figure &figure, const CanvasView &view, Rgb background, int twipsPerPixel)
 {
-    const QSize size = pixelSize(int(view.width), int(view.height), twipsPerPixel);
-    if (size.isEmpty())
+    if (!pictureSizeProblem(view.width, view.height, twipsPerPixel).empty())
         return {};
+    const QSize size = pixelSize(int(view.width), int(view.height), twipsPerPixel);
     QImage image(size, QImage::Format_RGB32);
     if (image.isNull())
         return {};
@@ -50,19 +68,28 @@ QImage renderFigureImage(const Figure &figure, const CanvasView &view, Rgb backg
     return image;
 }
 
-bool writeFigurePng(const QString &path, const Figure &figure, const CanvasView &view, Rgb background,
-                    int twipsPerPixel)
+FileOutcome writeFigurePng(const QString &path, const Figure &figure, const CanvasView &view, Rgb background,
+                           int twipsPerPixel)
 {
+    if (std::string problem = pictureSizeProblem(view.width, view.height, twipsPerPixel); !problem.empty())
+        return refused(problem);
     const QImage image = renderFigureImage(figure, view, background, twipsPerPixel);
-    return !image.isNull() && image.save(path, "PNG");
+    if (image.isNull())
+        return refused("there is not enough memory for the picture");
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    if (!image.save(&buffer, "PNG"))
+        return refused("the picture could not be encoded as PNG");
+    return writeFileSafely(path.toStdString(), std::string_view(bytes.constData(), bytes.size()));
 }
 
-bool writeFigureSvg(const QString &path, const Figure &figure, const CanvasView &view, Rgb background,
-                    int twipsPerPixel)
+FileOutcome writeFigureSvg(const QString &path, const Figure &figure, const CanvasView &view, Rgb background,
+                           int twipsPerPixel)
 {
+    if (std::string problem = pictureSizeProblem(view.width, view.height, twipsPerPixel); !problem.empty())
+        return refused(problem);
     const QSize size = pixelSize(int(view.width), int(view.height), twipsPerPixel);
-    if (size.isEmpty())
-        return false;
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     QSvgGenerator generator;
@@ -73,10 +100,10 @@ bool writeFigureSvg(const QString &path, const Figure &figure, const CanvasView 
     generator.setTitle(QStringLiteral("Map"));
     QPainter painter;
     if (!painter.begin(&generator))
-        return false;
+        return refused("the SVG picture could not be started");
     paintCanvas(painter, size, figure, view.scaleLeft, view.scaleTop, background, twipsPerPixel);
     if (!painter.end())
-        return false;
+        return refused("the SVG picture could not be finished");
 
     // The generator states the size in millimetres; the picture is a pixel
     // canvas, so its root element gets the same pixel size as the PNG.
@@ -84,11 +111,8 @@ bool writeFigureSvg(const QString &path, const Figure &figure, const CanvasView 
     static const QRegularExpression rootSize(QStringLiteral("<svg width=\"[^\"]*\" height=\"[^\"]*\""));
     svg.replace(rootSize, QStringLiteral("<svg width=\"%1\" height=\"%2\"").arg(size.width()).arg(size.height()));
 
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
     const QByteArray bytes = svg.toUtf8();
-    return file.write(bytes) == bytes.size() && file.commit();
+    return writeFileSafely(path.toStdString(), std::string_view(bytes.constData(), bytes.size()));
 }
 
 } // namespace quilmar
