@@ -3,6 +3,7 @@
 #include <charconv>
 
 #include "map_file.h"
+#include "number_read.h"
 
 namespace quilmar {
 
@@ -16,6 +17,17 @@ bool parseTwips(std::string_view text, float &value)
         return false;
     value = float(n);
     return true;
+}
+
+// A scale the scale box could hold: a named size or a positive number of units an inch.
+bool plausibleScale(const std::string &text)
+{
+    std::string name;
+    for (char c : text)
+        if (c != ' ')
+            name += char(std::toupper(static_cast<unsigned char>(c)));
+    return name == "MINIMUM" || name == "SMALL" || name == "STANDARD" || name == "MAXIMUM"
+        || leadingNumber(text) > 0;
 }
 
 bool given(const CLI::App &app, const char *name)
@@ -55,8 +67,11 @@ std::string checkMapOptions(const MapArguments &raw, MapCommandOptions &options)
         if (extra.size() > 1 && extra[0] == '-')
             return "unknown option " + extra;
     options.json = raw.json;
-    if (given(*raw.app, "--scale"))
+    if (given(*raw.app, "--scale")) {
+        if (!plausibleScale(raw.scale))
+            return "--scale must be Minimum, Small, Standard, Maximum or a number above 0, not \"" + raw.scale + "\"";
         options.overrides.scaleText = raw.scale;
+    }
     if (given(*raw.app, "--units")) {
         if (raw.units == "feet")
             options.overrides.units = Units::Feet;

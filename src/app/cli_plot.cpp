@@ -27,7 +27,7 @@ bool endsWith(const std::string &s, const std::string &suffix)
 int usageError(const std::string &problem, CommandIo &io)
 {
     io.err += "quilmar plot: " + problem + "\n" + usageText();
-    return 1;
+    return 2;
 }
 
 int plot(const MapArguments &raw, CommandIo &io)

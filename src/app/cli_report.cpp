@@ -75,7 +75,7 @@ namespace {
 int usageError(const std::string &problem, CommandIo &io)
 {
     io.err += "quilmar report: " + problem + "\n" + usageText();
-    return 1;
+    return 2;
 }
 
 int report(const MapArguments &raw, CommandIo &io)

@@ -21,7 +21,7 @@ struct SampleArguments {
 int usageError(const std::string &problem, CommandIo &io)
 {
     io.err += "quilmar sample: " + problem + "\n" + usageText();
-    return 1;
+    return 2;
 }
 
 int sample(const SampleArguments &raw, CommandIo &io)

@@ -159,10 +159,11 @@ TEST(CliReport, BadInput)
     const std::string missing = (tempDir() / "nowhere.map").string();
     const Case cases[] = {
         {{missing}, 1, "not found."},
-        {{}, 1, "no map file"},
-        {{"--units", "yards", missing}, 1, "--units"},
-        {{"--canvas", "12by5", missing}, 1, "--canvas"},
-        {{"--bogus", missing}, 1, "unknown option"},
+        {{}, 2, "no map file"},
+        {{"--units", "yards", missing}, 2, "--units"},
+        {{"--canvas", "12by5", missing}, 2, "--canvas"},
+        {{"--bogus", missing}, 2, "unknown option"},
+        {{"--scale", "abc", missing}, 2, "--scale must be"},
         {{tempDir().string()}, 1, "Cannot read"},
     };
     for (const Case &c : cases) {
