@@ -70,14 +70,6 @@ TEST(CurveCalculator, EmptyAnswersAndFaultsChangeNothing)
     EXPECT_TRUE(runCurveCalculator(CC::Angle, "10 0").isEmpty());     // zero circumference
 }
 
-TEST(CurveCalculator, TitlesAndPrompts)
-{
-    EXPECT_EQ(calculatorTitle(CC::Chord), "Give me Chord");
-    EXPECT_EQ(calculatorTitle(CC::Tangent), "Conversion");
-    EXPECT_EQ(calculatorPrompt(CC::Angle),
-              "Enter arc length and radius (separated by a space).\r\nFor Example 50  26.96");
-}
-
 TEST(ReciprocalAngle, ComplementsToNinetyDegrees)
 {
     const struct { const char *answer, *acresbox; } cases[] = {

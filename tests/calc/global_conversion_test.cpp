@@ -83,13 +83,8 @@ TEST(GlobalConversion, TypeMismatchStopsWhereItIs)
     EXPECT_EQ(table.at(1, ColRadius), Cell("10"));                // after it: untouched
 }
 
-TEST(GlobalConversion, QuestionsAndUnits)
+TEST(GlobalConversion, UnitsItSelects)
 {
-    EXPECT_EQ(GlobalConversion::toFeet(1).question(),
-              "This function will convert the entire table from Chains/Links (e.g. 250 Chains, 5 Links = 250.05) "
-              "to Feet.  OK to proceed?");
-    EXPECT_EQ(GlobalConversion::feetToMeters().question(),
-              "This function will convert the entire table from Feet to Meters.  OK to proceed?");
     CourseTable empty;
     EXPECT_EQ(GlobalConversion::feetToMeters().apply(empty), Units::Meters);
     EXPECT_THROW(GlobalConversion::toFeet(6), std::out_of_range);

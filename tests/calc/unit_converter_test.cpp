@@ -45,19 +45,11 @@ TEST(UnitConverter, BadAnswersChangeNothing)
         EXPECT_TRUE(runConverter(UC::Chains, answer).isEmpty()) << '"' << answer << '"';
 }
 
-TEST(UnitConverter, TitleAndPrompt)
-{
-    EXPECT_EQ(converterTitle(), "Conversion");
-    EXPECT_EQ(converterPrompt(UC::Chains),
-              "Enter Chains and Links.  For example 10 Chains and 5 links is entered as 10.05.\r\n"
-              "The result can be pasted from the clipboard.");
-}
-
 TEST(ShortcutConversion, ConvertsTheFieldOnly)
 {
-    // 10.05 x 66; 2 x 16.5; 10000 x 2.7777778 = 27777.778 (dividing by 0.36 would give 27777.7778)
+    // 2 x 16.5; 10000 x 2.7777778 = 27777.778 (dividing by 0.36 would give 27777.7778)
     const struct { ShortcutConversion s; const char *in, *out; } cases[] = {
-        {ShortcutConversion::ChainsLinks, "10.05", "663.3"}, {ShortcutConversion::PerchesRods, "2", "33.0"},
+        {ShortcutConversion::PerchesRods, "2", "33.0"},
         {ShortcutConversion::Varas, "1", "2.7778"}, {ShortcutConversion::Varas, "10000", "27777.778"}};
     for (const auto &c : cases) {
         const CalcResult r = runShortcut(c.s, c.in);

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "engine.h"
+#include "table_builder.h"
 
 using namespace quilmar;
 
@@ -19,22 +20,17 @@ public:
     std::vector<std::string> messages;
 };
 
-using Row = std::array<const char *, 10>;
+using test::Row;
 
 // A fresh engine in feet at "Standard" on the default 7200 x 4800 canvas.
 struct Fixture {
     Recorder prompter;
     Engine engine{prompter};
-    explicit Fixture(std::initializer_list<Row> rows)
+    explicit Fixture(std::initializer_list<Row> rows) : Fixture(std::vector<Row>(rows)) {}
+    explicit Fixture(const std::vector<Row> &rows)
     {
         engine.metrix_Click(Units::Feet);
-        int r = 0;
-        for (const Row &row : rows) {
-            for (int c = 0; c < 10; ++c)
-                engine.editTable().at(r, c + 1) = Cell(std::string(row[c]));
-            ++r;
-        }
-        engine.editTable().gethighest();
+        engine.editTable() = test::makeTable(rows);
         engine.redraw();
     }
 };
@@ -98,20 +94,9 @@ TEST(Engine, ResultTextsOfHandWorkedTraverses)
          "Gap = 100.50.  N 5° 42' 38'' W (18.35%)", "Perimeter = 547.58", "~17353.98", "17354 Square Meters [1.74 Ha]"},
         {"curve by chord and arc", {kBegin, straight("E", "100"), {"S", "45", "", "", "E", "157.0796", "141.4214", "100", "R", ""}, straight("W", "190"), {"", "", "", "", "", "", "", "", "", "C"}},
          "Gap = 100.50.  N 5° 42' 38'' W (18.35%)", "Perimeter = 547.58", "~17353.98", "17354 Square Meters [1.74 Ha]"},
-        // Two lots from an origin (the second lot's area point stays where the first closed).
-        {"new lot", {{"E", "", "", "", "", "1000", "", "", "", "O"}, {"N", "", "", "", "", "500", "", "", "", "B"}, straight("N", "1000"), straight("E", "1000"), straight("S", "1000"), {"", "", "", "", "", "", "", "", "", "C"}, {"", "", "", "", "", "", "", "", "", "N"}, straight("E", "500"), straight("N", "400"), {"", "", "", "", "", "", "", "", "", "C"}},
-         "Gap = 509.90.  N 78° 41' 24'' W (9.43%)", "Perimeter = 5,409.90", nullptr, nullptr},
     };
     for (const Case &c : cases) {
-        Fixture f{};
-        int r = 0;
-        for (const Row &row : c.rows) {
-            for (int k = 0; k < 10; ++k)
-                f.engine.editTable().at(r, k + 1) = Cell(std::string(row[k]));
-            ++r;
-        }
-        f.engine.editTable().gethighest();
-        f.engine.redraw();
+        Fixture f{c.rows};
         EXPECT_EQ(f.engine.acresbox(), "") << c.what;
         f.engine.mnuGap_Click();
         EXPECT_EQ(f.engine.acresbox(), c.gap) << c.what;

@@ -43,6 +43,8 @@ TEST(CourseConversion, DirectionOfTheLastRow)
         {"N 12 30 15 W", {{"N", "12", "30", "15", "W", "50", "", "", "", ""}}, -102.50417f},
         {"+ 90 after north turns right", {{"N", "", "", "", "", "100", "", "", "", ""}, {"+", "90", "", "", "", "100", "", "", "", ""}}, 0.0f},
         {"- 90 after north turns left", {{"N", "", "", "", "", "100", "", "", "", ""}, {"-", "90", "", "", "", "100", "", "", "", ""}}, -180.0f},
+        {"the code may sit in the E/W cell", {{"", "45", "", "", "NE", "100", "", "", "", ""}}, -45.0f},
+        {"+ with blanks around it still turns", {{"N", "", "", "", "", "100", "", "", "", ""}, {" + ", "90", "", "", " ", "100", "", "", "", ""}}, 0.0f},
         {"+ with an E/W code is no turn", {{"N", "", "", "", "", "100", "", "", "", ""}, {"+", "20", "", "", "E", "100", "", "", "", ""}}, 20.0f},
         {"tangent straight course keeps the direction", {{"S", "45", "", "", "W", "100", "", "", "", ""}, {"", "", "", "", "", "100", "", "", "", ""}}, 135.0f},
         // 360 * 100 / (3.14159265 * 200) = 57.29578; half of it off north to the left.
@@ -53,14 +55,8 @@ TEST(CourseConversion, DirectionOfTheLastRow)
         {"a curve with a bearing sets the running direction to its chord", {{"N", "45", "", "", "W", "", "300", "500", "L", ""}, {"", "", "", "", "", "10", "", "", "", ""}}, -135.0f},
     };
     for (const Case &c : cases) {
-        CourseTable t;
-        int r = 0;
-        for (const Row &row : c.rows) {
-            for (int k = 0; k < 10; ++k)
-                t.at(r, k + 1) = Cell(std::string(row[k]));
-            ++r;
-        }
-        LegTable legs = convert(t);
+        LegTable legs = convert(makeTable(c.rows));
+        const size_t r = c.rows.size();
         ASSERT_TRUE(legs[r - 1].direction.has_value()) << c.what;
         EXPECT_NEAR(*legs[r - 1].direction, c.direction, 2e-4) << c.what;
     }

@@ -175,7 +175,7 @@ TEST(Walk, HalfCircleByChordIsDrawn)
     EXPECT_EQ(itemsOf<FigArc>(w.figure).size(), 1u);
 }
 
-TEST(Walk, AreaIsTheSameBothWaysRound)
+TEST(Walk, AreaSignFollowsTheDirectionOfTravel)
 {
     auto square = [](const char *a, const char *b, const char *c, const char *d) {
         return walk(makeTable({

@@ -233,7 +233,7 @@ TEST_F(MapFileTest, WriteReplacesInOnePieceAndLeavesNoTemporaryFile)
     EXPECT_EQ(std::distance(fs::directory_iterator(m_dir), fs::directory_iterator{}), 1); // only deed.map
 }
 
-TEST(SplitSpec, TakesUnitScaleAndDescriptionApart)
+TEST(SplitTail, TakesUnitScaleAndDescriptionApart)
 {
     struct Case { std::string text; bool found; std::optional<char> unit; std::string scale, description; };
     const Case cases[] = {

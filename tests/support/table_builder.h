@@ -1,5 +1,6 @@
 #pragma once
-// Builds course tables for tests from rows written as the user types them.
+// Builds course tables for tests from rows written as the user types them;
+// shared by the test folders.
 
 #include <array>
 #include <initializer_list>
@@ -12,7 +13,7 @@ namespace quilmar::test {
 /// One row: N/S, degrees, minutes, seconds, E/W, distance, chord, radius, L/R, tag.
 using Row = std::array<const char *, 10>;
 
-inline CourseTable makeTable(std::initializer_list<Row> rows)
+template <class Rows> CourseTable makeTable(const Rows &rows)
 {
     CourseTable t;
     int r = 0;
@@ -24,5 +25,7 @@ inline CourseTable makeTable(std::initializer_list<Row> rows)
     t.gethighest();
     return t;
 }
+
+inline CourseTable makeTable(std::initializer_list<Row> rows) { return makeTable<std::initializer_list<Row>>(rows); }
 
 } // namespace quilmar::test
