@@ -57,9 +57,17 @@ int runSubcommand(const Subcommand &sub, const Args &args, CommandIo &io)
 
 } // namespace
 
+bool isSubcommandName(const std::string &word)
+{
+    for (const Subcommand &sub : kSubcommands)
+        if (word == sub.name)
+            return true;
+    return false;
+}
+
 std::string usageText()
 {
-    std::string text = "usage:\n";
+    std::string text = "usage:\n  quilmar [FILE.map]    (the window)\n";
     for (const Subcommand &sub : kSubcommands)
         text += std::string("  quilmar ") + sub.synopsis + "\n";
     return text;

@@ -35,6 +35,9 @@ struct CommandIo {
 /// @returns the exit status; an unknown subcommand gives 1 with the usage
 int runCommandLine(const Args &args, CommandIo &io);
 
+/// True when @p word names a subcommand of the table.
+bool isSubcommandName(const std::string &word);
+
 /// "usage:" and one line per subcommand, from the table.
 std::string usageText();
 

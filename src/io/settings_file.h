@@ -1,0 +1,37 @@
+#pragma once
+// The settings file: named after the program with ".ini", beside the program,
+// read once at start-up and never written. Windows profile semantics: sections
+// and keys are found whatever their case, a value is the whole text after "="
+// with blanks at both ends removed ("50;100;200" is one value), and a missing
+// file or key gives the key's default. Numbers follow the leading-number rule.
+//
+// Exception to the whole-value rule, from the INI parser used: a ";" that
+// follows a blank starts a comment ("50 ;100" reads "50").
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace quilmar {
+
+struct SettingsValues {
+    /// [Setting] Scales, blanks removed at both ends and a trailing NUL dropped.
+    std::string scales = "50;100;200;400;800;1500;2000;3000;4000";
+    float scaleMetric = 576.0f;   ///< [Setting] ScaleMetric, twips per metre at scale 1
+    float scaleEnglish = 1440.0f; ///< [Setting] ScaleEnglish, twips per foot at scale 1
+    /// [PrintOptions] ReferencePoints, ReferenceList, PropertyDescr, Frames,
+    /// BalanceGap, in that order; rounded to whole numbers (half to even), 1 is on.
+    std::array<int16_t, 5> printOptions{1, 1, 1, 0, 0};
+};
+
+/// Reads @p iniPath (UTF-8). A missing or unreadable file gives the defaults.
+SettingsValues readSettings(const std::string &iniPath);
+
+/// The numeric items of the scale box for a Scales text: each piece up to ";"
+/// read by the leading-number rule and written as the classic number-to-text
+/// conversion does, with a blank where a positive number's sign would go
+/// ("50" -> " 50", "0.5" -> " .5", "" -> " 0"). An empty text gives no item.
+std::vector<std::string> scaleItems(const std::string &scales);
+
+} // namespace quilmar

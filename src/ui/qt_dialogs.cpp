@@ -1,0 +1,82 @@
+#include "qt_dialogs.h"
+
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QStringList>
+
+namespace quilmar {
+
+namespace {
+
+QString q(const std::string &s) { return QString::fromStdString(s); }
+
+QMessageBox::Icon qtIcon(Icon icon)
+{
+    switch (icon) {
+    case Icon::Exclamation: return QMessageBox::Warning;
+    case Icon::Question: return QMessageBox::Question;
+    case Icon::Stop: return QMessageBox::Critical;
+    case Icon::Information: return QMessageBox::Information;
+    case Icon::None: break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+} // namespace
+
+Answer QtDialogs::ask(const std::string &text, const std::string &title, Buttons buttons, Icon icon)
+{
+    QMessageBox box(qtIcon(icon), q(title), q(text), QMessageBox::NoButton, m_parent);
+    QMessageBox::StandardButton first = QMessageBox::Ok;
+    switch (buttons) {
+    case Buttons::Ok: box.setStandardButtons(QMessageBox::Ok); break;
+    case Buttons::OkCancel: box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel); break;
+    case Buttons::YesNo: box.setStandardButtons(QMessageBox::Yes | QMessageBox::No); first = QMessageBox::Yes; break;
+    case Buttons::YesNoCancel:
+        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+        first = QMessageBox::Yes;
+        break;
+    }
+    // Every question defaults to its first button.
+    box.setDefaultButton(first);
+    switch (box.exec()) {
+    case QMessageBox::Ok: return Answer::Ok;
+    case QMessageBox::Yes: return Answer::Yes;
+    case QMessageBox::No: return Answer::No;
+    default: return buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
+    }
+}
+
+std::optional<std::string> QtDialogs::inputBox(const std::string &prompt, const std::string &title,
+                                               const std::string &initial)
+{
+    bool ok = false;
+    const QString text = QInputDialog::getText(m_parent, q(title), q(prompt), QLineEdit::Normal, q(initial), &ok);
+    if (!ok)
+        return std::nullopt;
+    return text.toStdString();
+}
+
+QString qtFilter(const std::string &classic)
+{
+    const QStringList parts = q(classic).split('|');
+    QStringList filters;
+    for (int i = 0; i + 1 < parts.size(); i += 2)
+        filters << parts[i] + " (" + QString(parts[i + 1]).replace(';', ' ') + ")";
+    return filters.join(";;");
+}
+
+std::optional<std::string> QtDialogs::fileName(FileMode mode, const std::string &filter, const std::string &folder)
+{
+    const QString name =
+        mode == FileMode::Open
+            ? QFileDialog::getOpenFileName(m_parent, {}, q(folder), qtFilter(filter))
+            : QFileDialog::getSaveFileName(m_parent, {}, q(folder), qtFilter(filter), nullptr,
+                                           QFileDialog::DontConfirmOverwrite);
+    if (name.isEmpty())
+        return std::nullopt;
+    return name.toStdString();
+}
+
+} // namespace quilmar

@@ -1,0 +1,31 @@
+#pragma once
+// The window's Dialogs: Qt message boxes, input box and file dialogs, all
+// parented to the window and titled as the program.
+
+#include "dialogs.h"
+
+#include <QString>
+
+class QWidget;
+
+namespace quilmar {
+
+class QtDialogs : public Dialogs {
+public:
+    explicit QtDialogs(QWidget *parent = nullptr) : m_parent(parent) {}
+    void setParent(QWidget *parent) { m_parent = parent; }
+
+    Answer ask(const std::string &text, const std::string &title, Buttons buttons, Icon icon) override;
+    std::optional<std::string> inputBox(const std::string &prompt, const std::string &title,
+                                        const std::string &initial) override;
+    std::optional<std::string> fileName(FileMode mode, const std::string &filter, const std::string &folder) override;
+
+private:
+    QWidget *m_parent;
+};
+
+/// A classic "description|pattern|..." filter as a Qt name filter list
+/// ("Map data(*.map)|*.map" -> "Map data(*.map) (*.map)").
+QString qtFilter(const std::string &classic);
+
+} // namespace quilmar

@@ -1,0 +1,336 @@
+#include "grid_rules.h"
+
+#include <gtest/gtest.h>
+
+#include "scripted_dialogs.h"
+
+using namespace quilmar;
+
+namespace {
+
+struct Grid : ::testing::Test {
+    CourseTable table;
+    ScriptedDialogs dialogs;
+    int draws = 0;
+    GridRules rules{table, dialogs, [this] { ++draws; }};
+
+    // Focus a field, type into it as the widget would, and leave it.
+    GridOutcome type(FieldRef f, const std::string &text)
+    {
+        rules.gotFocus(f);
+        rules.setText(f, text);
+        return rules.lostFocus(f);
+    }
+    void fillRow(int row, std::array<const char *, 10> cells)
+    {
+        for (int c = ColNS; c <= ColTag; ++c)
+            rules.setText({row, c}, cells[c - 1]);
+    }
+};
+
+struct KeyCase {
+    int column;
+    const char *current;
+    char32_t key;
+    std::optional<std::string> text; // expected new text
+    bool swallow, beep;
+};
+
+} // namespace
+
+TEST_F(Grid, KeystrokeFiltersAndToggles)
+{
+    const KeyCase cases[] = {
+        {ColNS, "", 'x', "N", true, false},   {ColNS, "N", 'x', "S", true, false},
+        {ColNS, "S", 'x', "N", true, false},  {ColNS, "S", 'w', "W", true, false},
+        {ColNS, "", '+', "+", true, false},   {ColNS, "N", 8, "S", true, false},
+        {ColEW, "", 'q', "E", true, false},   {ColEW, "E", 'q', "W", true, false},
+        {ColEW, "", 'w', "W", true, false},   {ColLR, "", 'q', "R", true, false},
+        {ColLR, "R", 'q', "L", true, false},  {ColLR, "R", 'l', "L", true, false},
+        {ColTag, "B", 'c', "C", true, false}, {ColTag, "B", 'x', "", true, false},
+        {ColDeg, "", '5', std::nullopt, false, false}, {ColDistance, "", '.', std::nullopt, false, false},
+        {ColChord, "", ',', std::nullopt, false, false}, {ColRadius, "1", 8, std::nullopt, false, false},
+        {ColMin, "", 'a', std::nullopt, true, true}, {ColSec, "", ' ', std::nullopt, true, true},
+        {ColDistance, "", 0xE9, std::nullopt, true, true},
+    };
+    for (const KeyCase &k : cases) {
+        rules.setText({2, k.column}, k.current);
+        const KeyOutcome out = rules.keyPress({2, k.column}, k.key);
+        SCOPED_TRACE(std::to_string(k.column) + " '" + k.current + "' " + std::to_string(int(k.key)));
+        EXPECT_EQ(out.newText, k.text);
+        EXPECT_EQ(out.swallow, k.swallow);
+        EXPECT_EQ(out.beep, k.beep);
+        if (k.text) {
+            EXPECT_EQ(rules.text({2, k.column}), *k.text);
+        }
+    }
+}
+
+TEST_F(Grid, TabAndEnterMoveTheFocus)
+{
+    struct {
+        FieldRef from;
+        const char *radius;
+        std::optional<FieldRef> to;
+        bool scrollMessage;
+    } cases[] = {
+        {{0, ColNS}, "", FieldRef{0, ColDeg}, false},
+        {{0, ColDistance}, "", FieldRef{1, ColNS}, false},
+        {{0, ColDistance}, "50", FieldRef{0, ColChord}, false},
+        {{0, ColLR}, "50", FieldRef{1, ColNS}, false},
+        {{3, ColTag}, "", FieldRef{4, ColNS}, false},
+        {{9, ColDistance}, "", std::nullopt, true},
+        {{9, ColLR}, "", std::nullopt, true},
+        {{9, ColTag}, "", std::nullopt, false},
+        {{9, ColDistance}, "50", FieldRef{9, ColChord}, false},
+    };
+    for (const auto &c : cases) {
+        rules.setText({c.from.row, ColRadius}, c.radius);
+        for (char32_t key : {U'\t', U'\r'}) {
+            const KeyOutcome out = rules.keyPress(c.from, key);
+            EXPECT_TRUE(out.swallow);
+            EXPECT_EQ(out.focus, c.to) << c.from.row << "," << c.from.column;
+            const auto shown = dialogs.texts();
+            EXPECT_EQ(shown.size(), c.scrollMessage ? 1u : 0u);
+            if (c.scrollMessage) {
+                EXPECT_EQ(shown[0], "Please use scroll bar to add additional rows.");
+            }
+        }
+    }
+}
+
+TEST_F(Grid, LeavingAFieldChecksAndStores)
+{
+    struct {
+        int column;
+        const char *ns, *tag, *text;
+        const char *message; // "" for none
+        bool stored;
+    } cases[] = {
+        {ColNS, "", "C", "N", "Entries cannot be made on a line with a 'C' or 'N' tag.", false},
+        {ColDistance, "", "N", "12", "Entries cannot be made on a line with a 'C' or 'N' tag.", false},
+        {ColDistance, "", "N", "abc", "", true},
+        {ColDeg, "N", "", "95", "Invalid entry.", true}, // angle fields store what they refuse
+        {ColDeg, "+", "", "95", "", true},
+        {ColDeg, "N", "", "4x", "Invalid entry.", true},
+        {ColMin, "N", "", "60", "Invalid entry.", true},
+        {ColSec, "N", "", "59.999", "", true},
+        {ColChord, "N", "", "abc", "", true}, // reads as 0: no message
+        {ColChord, "N", "", "5a", "Invalid entry.", false},
+        {ColRadius, "N", "", " 40 ", "", true},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(std::to_string(c.column) + " " + c.text);
+        table.erase();
+        rules.setText({1, ColNS}, c.ns);
+        rules.setText({1, ColTag}, c.tag);
+        const GridOutcome out = type({1, c.column}, c.text);
+        const auto shown = dialogs.texts();
+        if (*c.message) {
+            ASSERT_EQ(shown.size(), 1u);
+            EXPECT_EQ(shown[0], c.message);
+            EXPECT_EQ(out.focus, (FieldRef{1, c.column}));
+        } else {
+            EXPECT_TRUE(shown.empty());
+            EXPECT_FALSE(out.focus);
+        }
+        EXPECT_EQ(table.at(1, c.column).text(), c.stored ? c.text : "");
+    }
+}
+
+TEST_F(Grid, RowCheckMessagesIconsAndFocus)
+{
+    struct {
+        std::array<const char *, 10> row;
+        bool valid;
+        const char *message;
+        Icon icon;
+        std::optional<FieldRef> focus;
+    } cases[] = {
+        {{"N", "95", "", "", "E", "10", "", "", "", ""}, false, "Invalid value in angle fields.", Icon::Exclamation, FieldRef{4, ColDeg}},
+        {{"+", "95", "", "", "", "10", "", "", "", ""}, true, "", Icon::None, std::nullopt},
+        {{"", "45", "", "", "E", "10", "", "", "", ""}, false, "Please specify the North-South direction.", Icon::Exclamation, FieldRef{4, ColNS}},
+        {{"N", "45", "", "", "", "10", "", "", "", ""}, false, "Please specify the East-West direction.", Icon::Exclamation, FieldRef{4, ColEW}},
+        {{"-", "45", "", "", "", "10", "", "", "", ""}, true, "", Icon::None, std::nullopt},
+        {{"N", "1", "59.999", "", "E", "10", "", "", "", ""}, true, "", Icon::None, std::nullopt},
+        {{"N", "1", "59.9995", "", "E", "10", "", "", "", ""}, false, "Invalid value in angle fields.", Icon::None, std::nullopt},
+        {{"N", "1", "", "59.99995", "E", "10", "", "", "", ""}, false, "Invalid value in angle fields.", Icon::None, std::nullopt},
+        {{"N", "1", "", "", "E", "10", "", "", "R", ""}, false, "Radius must be specified.", Icon::Exclamation, FieldRef{4, ColRadius}},
+        {{"N", "1", "", "", "E", "10", "", "50", "", ""}, false, "Left/Right direction of curve must be specified.", Icon::Exclamation, FieldRef{4, ColLR}},
+        {{"N", "1", "", "", "E", "", "", "50", "R", ""}, false, "For curves either the distance or the chord must be specified.", Icon::Exclamation, FieldRef{4, ColDistance}},
+        {{"", "", "", "", "", "", "", "50", "R", "C"}, true, "", Icon::None, std::nullopt},
+        {{"", "", "", "", "", "", "20", "50", "R", ""}, false, "If you use chords you must specify the angle.", Icon::Exclamation, FieldRef{4, ColNS}},
+        {{"N", "1", "", "", "E", "314.2", "", "100", "R", ""}, false, "Distance is too long for given radius.", Icon::Exclamation, FieldRef{4, ColRadius}},
+        {{"N", "1", "", "", "E", "314.1", "", "100", "R", ""}, true, "", Icon::None, std::nullopt},
+        {{"N", "1", "", "", "E", "", "201", "100", "R", ""}, false, " Chord is too long for given radius", Icon::Exclamation, FieldRef{4, ColChord}},
+        // arc 100 on radius 100: chord 95.885; within 0.1 % passes unchanged
+        {{"N", "1", "", "", "E", "100", "95.9", "100", "R", ""}, true, "", Icon::None, std::nullopt},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(std::string(c.row[0]) + "|" + c.row[1] + "|" + c.row[2] + "|" + c.row[3] + "|" + c.row[5] + "|" + c.row[6] + "|" + c.row[7]);
+        fillRow(4, c.row);
+        GridOutcome out;
+        EXPECT_EQ(rules.test_all(4, out), c.valid);
+        const auto asked = dialogs.asked;
+        dialogs.asked.clear();
+        if (*c.message) {
+            ASSERT_EQ(asked.size(), 1u);
+            EXPECT_EQ(asked[0].text, c.message);
+            EXPECT_EQ(asked[0].icon, c.icon);
+        } else {
+            EXPECT_TRUE(asked.empty());
+        }
+        EXPECT_EQ(out.focus, c.focus);
+    }
+}
+
+TEST_F(Grid, ChordCorrectionQuestion)
+{
+    for (Answer a : {Answer::Yes, Answer::No}) {
+        fillRow(0, {"N", "10", "", "", "E", "100", "90", "100", "R", ""});
+        dialogs.answers = {a};
+        GridOutcome out;
+        EXPECT_TRUE(rules.test_all(0, out));
+        ASSERT_EQ(dialogs.asked.size(), 1u);
+        EXPECT_EQ(dialogs.asked[0].text,
+                  "Chord is incorrect based on radius and distance given.  Correct chord is 95.89.  If you press "
+                  "'Yes' then your input will be substituted with correct value, otherwise the chord value will be "
+                  "deleted.");
+        EXPECT_EQ(dialogs.asked[0].buttons, Buttons::YesNo);
+        EXPECT_EQ(rules.text({0, ColChord}), a == Answer::Yes ? "95.89" : "");
+        dialogs.asked.clear();
+    }
+}
+
+TEST_F(Grid, RedrawsOnlyWhenTheLastFieldLeftChanged)
+{
+    fillRow(0, {"N", "10", "", "", "E", "100", "", "", "", ""});
+    type({0, ColDistance}, "120");
+    type({1, ColNS}, ""); // click into another row, and on
+    EXPECT_EQ(draws, 1);
+    EXPECT_EQ(rules.currentRow(), 1);
+
+    // Changing the distance, tabbing on to the chord unchanged, then leaving the row: no redraw.
+    rules.setText({1, ColRadius}, "");
+    fillRow(2, {"N", "10", "", "", "E", "100", "", "", "", ""});
+    type({2, ColDistance}, "150");
+    type({2, ColChord}, "");
+    rules.gotFocus({3, ColNS});
+    EXPECT_EQ(draws, 1);
+}
+
+TEST_F(Grid, FailingRowCheckKeepsTheCurrentRowExceptForTags)
+{
+    fillRow(0, {"", "45", "", "", "E", "10", "", "", "", ""});
+    GridOutcome out = rules.gotFocus({5, ColDeg});
+    EXPECT_EQ(rules.currentRow(), 0);
+    EXPECT_EQ(out.focus, (FieldRef{0, ColNS}));
+    out = rules.gotFocus({5, ColTag});
+    EXPECT_EQ(rules.currentRow(), 5);
+    EXPECT_TRUE(out.showTagMenu);
+}
+
+TEST_F(Grid, ScrollingKeepsAnEditInItsOwnRowAndRaisesHighest)
+{
+    rules.gotFocus({9, ColDistance});
+    EXPECT_EQ(table.highest, 10);
+    rules.setText({9, ColDistance}, "77");
+    rules.lostFocus({9, ColDistance}); // the window moves the focus away first
+    rules.scrollTo(5);
+    EXPECT_EQ(table.at(9, ColDistance).text(), "77");
+    EXPECT_EQ(rules.text({4, ColDistance}), "77");
+    rules.gotFocus({9, ColNS});
+    EXPECT_EQ(table.highest, 14);
+    EXPECT_EQ(rules.helpText({0, ColNS}), "Row 6"); // only the N/S column's help needs an unscrolled grid
+    EXPECT_EQ(rules.helpText({0, ColDeg}), "Enter the degrees (0 to 90) of the angle, or leave blank.");
+    rules.scrollTo(0);
+    EXPECT_EQ(rules.helpText({3, ColMin}), "Enter the minutes (0 to 59.999) of the angle, or leave blank.");
+    EXPECT_EQ(rules.helpText({4, ColMin}), "Row 5");
+    EXPECT_EQ(rules.helpText({4, ColTag}), "");
+}
+
+TEST_F(Grid, TagMenuNewLineRule)
+{
+    rules.gotFocus({2, ColTag});
+    rules.setText({2, ColTag}, "B");
+    rules.setText({2, ColDistance}, "100");
+    rules.tagMenu(3);
+    EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"The Close tag must be placed on a new line."});
+    EXPECT_EQ(rules.text({2, ColTag}), "B");
+    rules.tagMenu(4);
+    EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"The New Lot tag must be placed on a new line."});
+    rules.setText({2, ColDistance}, "");
+    rules.tagMenu(3);
+    EXPECT_EQ(rules.text({2, ColTag}), "C");
+    rules.tagMenu(5);
+    EXPECT_EQ(rules.text({2, ColTag}), "O");
+    rules.tagMenu(1);
+    EXPECT_EQ(rules.text({2, ColTag}), "");
+    rules.lostFocus({2, ColTag});
+    EXPECT_EQ(table.at(2, ColTag).text(), "");
+}
+
+TEST_F(Grid, InsertAndDeleteShiftTheTable)
+{
+    for (int r = 0; r < CourseTable::kRows; ++r)
+        table.at(r, ColDistance) = Cell(std::to_string(r));
+    rules.scrollTo(45);
+    rules.gotFocus({5, ColNS}); // table row 50
+    rules.insertKey({5, ColNS});
+    EXPECT_EQ(table.at(50, ColDistance).text(), "");
+    EXPECT_EQ(table.at(51, ColDistance).text(), "50");
+    EXPECT_EQ(table.at(200, ColDistance).text(), "199");
+    EXPECT_EQ(table.at(201, ColDistance).text(), "201");
+    EXPECT_EQ(rules.text({6, ColDistance}), "50");
+    rules.insertKey({5, ColDeg}); // Insert in another column does nothing
+    EXPECT_EQ(table.at(51, ColDistance).text(), "50");
+
+    dialogs.answers = {Answer::Cancel, Answer::Ok};
+    EXPECT_FALSE(rules.commandDelete());
+    EXPECT_EQ(table.at(50, ColDistance).text(), "");
+    EXPECT_TRUE(rules.commandDelete());
+    EXPECT_EQ(table.at(50, ColDistance).text(), "50");
+
+    for (int r = 0; r < CourseTable::kRows; ++r)
+        table.at(r, ColDistance) = Cell(std::to_string(r));
+    rules.scrollTo(191);
+    rules.gotFocus({8, ColDeg}); // table row 199
+    rules.deleterow();
+    EXPECT_EQ(table.at(199, ColDistance).text(), "200");
+    EXPECT_EQ(table.at(200, ColDistance).text(), "201");
+    EXPECT_EQ(table.at(201, ColDistance).text(), "201");
+
+    rules.scrollTo(0);
+    GridOutcome out;
+    rules.gotFocus({0, ColNS});
+    rules.insertrow(); // at row 0 the copy from row -1 is skipped
+    EXPECT_EQ(table.at(0, ColDistance).text(), "");
+    EXPECT_EQ(table.at(1, ColDistance).text(), "0");
+}
+
+TEST_F(Grid, ClearRowAndClearAll)
+{
+    fillRow(3, {"N", "10", "", "", "E", "100", "", "", "", ""});
+    table.at(3, ColNS) = Cell("N");
+    table.at(4, ColNS) = Cell("S");
+    rules.gotFocus({3, ColDeg});
+    GridOutcome out;
+    dialogs.answers = {Answer::Cancel};
+    EXPECT_FALSE(rules.clearRow(out));
+    EXPECT_EQ(rules.text({3, ColNS}), "N");
+    EXPECT_TRUE(rules.clearRow(out));
+    EXPECT_EQ(dialogs.texts().back(), "Are you sure you want to clear the entries of the current line?");
+    EXPECT_EQ(rules.text({3, ColNS}), "");
+    EXPECT_EQ(table.at(3, ColNS).text(), "");
+    EXPECT_EQ(table.at(4, ColNS).text(), "S");
+    EXPECT_EQ(out.focus, (FieldRef{3, ColNS}));
+
+    rules.scrollTo(20);
+    GridOutcome all;
+    EXPECT_TRUE(rules.clearAll(all));
+    EXPECT_EQ(dialogs.texts().back(), "Are you sure you want to clear all entries?");
+    EXPECT_EQ(table.at(4, ColNS).text(), "");
+    EXPECT_EQ(table.highest, 50);
+    EXPECT_EQ(rules.scroll(), 0);
+    EXPECT_EQ(all.focus, (FieldRef{0, ColNS}));
+}

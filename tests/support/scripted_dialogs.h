@@ -1,0 +1,69 @@
+#pragma once
+// Dialogs for tests: every question is answered from a queue (OK/Yes when the
+// queue is empty, so a forgotten answer shows up as a recorded question rather
+// than a hang), and every box is recorded with its text, buttons and icon.
+
+#include <deque>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "dialogs.h"
+
+namespace quilmar {
+
+struct AskedBox {
+    std::string text;
+    Buttons buttons;
+    Icon icon;
+};
+
+class ScriptedDialogs : public Dialogs {
+public:
+    std::deque<Answer> answers;
+    std::deque<std::optional<std::string>> inputs;
+    std::deque<std::optional<std::string>> files;
+    std::vector<AskedBox> asked;
+    std::vector<std::string> prompts; ///< input boxes and file dialogs, in order
+
+    Answer ask(const std::string &text, const std::string &, Buttons buttons, Icon icon) override
+    {
+        asked.push_back({text, buttons, icon});
+        if (answers.empty())
+            return buttons == Buttons::YesNo || buttons == Buttons::YesNoCancel ? Answer::Yes : Answer::Ok;
+        Answer a = answers.front();
+        answers.pop_front();
+        return a;
+    }
+    std::optional<std::string> inputBox(const std::string &prompt, const std::string &, const std::string &) override
+    {
+        prompts.push_back(prompt);
+        return take(inputs);
+    }
+    std::optional<std::string> fileName(FileMode, const std::string &filter, const std::string &) override
+    {
+        prompts.push_back(filter);
+        return take(files);
+    }
+    /// The texts of the boxes shown so far; clears the record.
+    std::vector<std::string> texts()
+    {
+        std::vector<std::string> out;
+        for (const AskedBox &b : asked)
+            out.push_back(b.text);
+        asked.clear();
+        return out;
+    }
+
+private:
+    static std::optional<std::string> take(std::deque<std::optional<std::string>> &q)
+    {
+        if (q.empty())
+            return std::nullopt;
+        auto v = q.front();
+        q.pop_front();
+        return v;
+    }
+};
+
+} // namespace quilmar

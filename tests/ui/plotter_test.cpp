@@ -1,0 +1,310 @@
+// The window through real focus changes, keys and clicks (offscreen platform),
+// with every question answered by ScriptedDialogs.
+
+#include "plotter.h"
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include <QAction>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "entry_grid.h"
+#include "scripted_dialogs.h"
+
+using namespace quilmar;
+namespace fs = std::filesystem;
+
+namespace {
+
+class Window : public ::testing::Test {
+protected:
+    fs::path dir = fs::temp_directory_path() /
+                   ("quilmar_ui_" + std::to_string(::getpid()) + ::testing::UnitTest::GetInstance()->current_test_info()->name());
+    ScriptedDialogs dialogs;
+    std::unique_ptr<Plotter> w;
+
+    void SetUp() override
+    {
+        fs::create_directories(dir);
+        start(true);
+    }
+    void TearDown() override
+    {
+        w.reset();
+        fs::permissions(dir, fs::perms::owner_all, fs::perm_options::add);
+        fs::remove_all(dir);
+    }
+    void start(bool english, const std::string &ini = {})
+    {
+        w.reset();
+        if (!ini.empty())
+            std::ofstream(dir / "quilmar.ini") << ini;
+        w = std::make_unique<Plotter>(dialogs, startupOptionsIn(dir.string(), "quilmar", english));
+        w->resize(1100, 700);
+        w->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(w.get()));
+    }
+    QLineEdit *field(int row, int column) { return w->grid().field({row, column}); }
+    template <class T> T *child(const char *name) { return w->findChild<T *>(name); }
+    void click(QWidget *widget) { QTest::mouseClick(widget, Qt::LeftButton); }
+    /// Types @p keys into the focused widget; "\t" is Tab and "\r" Enter.
+    void type(const std::string &keys)
+    {
+        for (char c : keys) {
+            QWidget *target = QApplication::focusWidget();
+            if (c == '\t')
+                QTest::keyClick(target, Qt::Key_Tab);
+            else if (c == '\r')
+                QTest::keyClick(target, Qt::Key_Return);
+            else
+                QTest::keyClick(target, c);
+        }
+    }
+    void closeTagMenu() { w->grid().tagMenu()->hide(); }
+    std::string cell(int row, int column) { return w->engine().table().at(row, column).text(); }
+};
+
+} // namespace
+
+TEST_F(Window, StartsWithTheScaleListUnitsAndNames)
+{
+    auto *scale = child<QComboBox>("Scalebox");
+    QStringList items;
+    for (int i = 0; i < scale->count(); ++i)
+        items << scale->itemText(i);
+    EXPECT_EQ(items.join("|"), "Minimum|Small|Standard|Maximum| 50| 100| 200| 400| 800| 1500| 2000| 3000| 4000|Custom");
+    EXPECT_EQ(scale->currentText(), "Standard");
+    EXPECT_EQ(w->windowTitle(), "Quilmar Deed Plotter");
+    EXPECT_TRUE(child<QRadioButton>("metrix_0")->isChecked());
+    EXPECT_TRUE(child<QAction>("mnuAcres")->isVisible());
+    EXPECT_FALSE(child<QAction>("mnuHectares")->isVisible());
+    EXPECT_FALSE(w->engine().mapComputed()); // "Standard" at start-up draws nothing
+    EXPECT_EQ(field(0, 1)->objectName(), "Text1_0");
+    EXPECT_EQ(field(9, 10)->objectName(), "Text10_9");
+    EXPECT_EQ(field(0, 2)->accessibleName(), "Row 1 Deg");
+    w->grid().scrollBar()->setValue(11);
+    EXPECT_EQ(field(0, 6)->accessibleName(), "Row 12 Distance");
+
+    start(false, "[setting]\nscales=250\n");
+    EXPECT_TRUE(child<QRadioButton>("metrix_1")->isChecked());
+    EXPECT_FALSE(child<QAction>("mnuAcres")->isVisible());
+    EXPECT_TRUE(child<QAction>("mnuHectares")->isVisible());
+    EXPECT_EQ(child<QComboBox>("Scalebox")->itemText(4), " 250");
+    EXPECT_EQ(child<QComboBox>("Scalebox")->count(), 6);
+}
+
+TEST_F(Window, TypingTheSquareDrawsItAndCtrlAGivesAcres)
+{
+    click(field(0, 10));
+    closeTagMenu();
+    type("b");
+    click(field(1, 1));
+    type("n\t0\t\t\tx\t100\r"); // Min and Sec left blank; "x" in E/W gives "E"
+    EXPECT_EQ(field(1, 5)->text(), "E");
+    EXPECT_EQ(QApplication::focusWidget(), field(2, 1));
+    type("n\t90\t\t\te\t100\r");
+    type("s\t0\t\t\te\t100\r");
+    type("s\t90\t\t\tw\t100\r");
+    EXPECT_EQ(cell(4, ColDistance), "100");
+    EXPECT_TRUE(w->engine().mapComputed());
+    EXPECT_FALSE(w->engine().figure().items.empty());
+    EXPECT_TRUE(dialogs.asked.empty());
+
+    QTest::keyClick(field(5, 1), Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(child<QLabel>("Acresbox")->text().toStdString(), "0.23 acres [10,000.00 sq ft]");
+    EXPECT_EQ(child<QLabel>("Acresbox")->accessibleDescription(), child<QLabel>("Acresbox")->text());
+    EXPECT_FALSE(field(5, 1)->hasSelectedText());
+
+    // A wrong bearing fixed: the map is recomputed when the row is left.
+    const std::string before = w->engine().acresbox();
+    click(field(2, 2));
+    field(2, 2)->selectAll();
+    type("45");
+    click(field(6, 1));
+    EXPECT_EQ(cell(2, ColDeg), "45");
+    EXPECT_EQ(child<QLabel>("Acresbox")->text(), ""); // the redraw empties the result line
+}
+
+TEST_F(Window, MessagesAndFocusFromTheRules)
+{
+    click(field(9, 6));
+    type("5\r");
+    ASSERT_EQ(dialogs.asked.size(), 1u);
+    EXPECT_EQ(dialogs.asked[0].text, "Please use scroll bar to add additional rows.");
+    EXPECT_EQ(QApplication::focusWidget(), field(9, 6));
+
+    click(field(3, 3));
+    type("60");
+    click(field(3, 4));
+    EXPECT_EQ(dialogs.asked.back().text, "Invalid entry.");
+    EXPECT_EQ(QApplication::focusWidget(), field(3, 3));
+    EXPECT_EQ(cell(3, ColMin), "60"); // stored all the same
+
+    QTest::keyClick(field(3, 3), 'q'); // refused with a beep
+    EXPECT_EQ(field(3, 3)->text(), "60");
+}
+
+TEST_F(Window, ScrollingWithAPendingEditKeepsItInItsRow)
+{
+    click(field(9, 6));
+    type("77");
+    w->grid().scrollBar()->setValue(5);
+    EXPECT_EQ(cell(9, ColDistance), "77");
+    EXPECT_EQ(field(4, 6)->text(), "77");
+    EXPECT_EQ(field(9, 6)->text(), "");
+    click(field(9, 6));
+    EXPECT_EQ(w->engine().table().highest, 14);
+}
+
+TEST_F(Window, TagMenuAndRowButtons)
+{
+    click(field(2, 6));
+    type("100");
+    click(field(2, 10));
+    QMenu *menu = w->grid().tagMenu();
+    EXPECT_TRUE(menu->isVisible());
+    menu->findChild<QAction *>("mnuPopup3")->trigger();
+    menu->hide();
+    EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"The Close tag must be placed on a new line."});
+    menu->findChild<QAction *>("mnuPopup2")->trigger();
+    EXPECT_EQ(field(2, 10)->text(), "B");
+
+    click(field(2, 1));
+    QTest::keyClick(field(2, 1), Qt::Key_Insert);
+    EXPECT_EQ(cell(3, ColDistance), "100");
+    EXPECT_EQ(field(3, 6)->text(), "100");
+    dialogs.answers = {Answer::Ok};
+    click(child<QPushButton>("CommandDelete"));
+    EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"Are you sure you want to delete the current row?"});
+    EXPECT_EQ(field(2, 6)->text(), "100");
+
+    dialogs.answers = {Answer::Cancel, Answer::Ok};
+    w->Toolbar_Click(2);
+    EXPECT_EQ(field(2, 6)->text(), "100");
+    w->Toolbar_Click(2);
+    EXPECT_EQ(field(2, 6)->text(), "");
+    EXPECT_EQ(w->engine().table().highest, 50);
+    EXPECT_EQ(QApplication::focusWidget(), field(0, 1));
+}
+
+TEST_F(Window, CustomScaleAndUnits)
+{
+    auto *scale = child<QComboBox>("Scalebox");
+    dialogs.inputs = {std::string("1000")};
+    w->Scalebox_Click(scale->count() - 1); // "Custom"
+    EXPECT_EQ(scale->currentText(), "1000:1");
+    EXPECT_EQ(scale->itemText(scale->count() - 1), "Custom");
+    EXPECT_EQ(w->engine().scaleText(), "1000:1");
+    EXPECT_TRUE(w->engine().mapComputed());
+    click(child<QRadioButton>("metrix_1"));
+    EXPECT_EQ(w->engine().metricFactor(), 2.5f);
+}
+
+TEST_F(Window, CloseAsksOnlyAboutTheTopRow)
+{
+    click(field(4, 1));
+    type("n");
+    w->close();
+    EXPECT_TRUE(dialogs.asked.empty());
+    EXPECT_FALSE(w->isVisible());
+
+    start(true);
+    click(field(0, 1));
+    type("n");
+    dialogs.answers = {Answer::Cancel};
+    w->close();
+    EXPECT_TRUE(w->isVisible());
+    dialogs.answers = {Answer::Yes};
+    dialogs.files = {(dir / "deed").string()};
+    w->close();
+    EXPECT_FALSE(w->isVisible());
+    EXPECT_TRUE(fs::exists(dir / "deed.map")); // ".map" added
+}
+
+TEST_F(Window, SaveOpenAndAFailedSaveKeepsTheOldFile)
+{
+    click(field(0, 1));
+    type("n\t10\t\t\te\t250\r");
+    w->Toolbar_Click(0);
+    const fs::path path = dir / "lot.map";
+    dialogs.files = {path.string()};
+    w->saveit(1);
+    std::stringstream saved;
+    saved << std::ifstream(path, std::ios::binary).rdbuf();
+    EXPECT_EQ(saved.str().substr(0, 13), "N\t10\t\t\tE\t250\t");
+
+    // Overwrite refused.
+    dialogs.files = {path.string()};
+    dialogs.answers = {Answer::No};
+    w->saveit(1);
+    EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"File already exists.  Do you want to overwrite it?"});
+
+    // A write that fails half-way (file size limit) leaves the old file as it was.
+    click(field(1, 6));
+    type("999");
+    click(field(2, 6));
+    struct rlimit old {};
+    getrlimit(RLIMIT_FSIZE, &old);
+    auto previous = std::signal(SIGXFSZ, SIG_IGN);
+    struct rlimit tiny = old;
+    tiny.rlim_cur = 8;
+    setrlimit(RLIMIT_FSIZE, &tiny);
+    dialogs.files = {path.string()};
+    dialogs.answers = {Answer::Yes};
+    w->saveit(1);
+    setrlimit(RLIMIT_FSIZE, &old);
+    std::signal(SIGXFSZ, previous);
+    std::stringstream after;
+    after << std::ifstream(path, std::ios::binary).rdbuf();
+    EXPECT_EQ(after.str(), saved.str());
+    EXPECT_EQ(std::distance(fs::directory_iterator(dir), fs::directory_iterator{}), 1); // no temporary left
+
+    if (::geteuid() != 0) { // a read-only folder stops everyone but root
+        fs::permissions(dir, fs::perms::owner_write, fs::perm_options::remove);
+        dialogs.files = {path.string()};
+        w->saveit(1);
+        std::stringstream ro;
+        ro << std::ifstream(path, std::ios::binary).rdbuf();
+        EXPECT_EQ(ro.str(), saved.str());
+        fs::permissions(dir, fs::perms::owner_write, fs::perm_options::add);
+    }
+
+    // Open asks to save (Cancel goes on all the same) and reads the file.
+    dialogs.asked.clear();
+    dialogs.answers = {Answer::Cancel};
+    dialogs.files = {path.string()};
+    w->fileopen_Click();
+    EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"Do you wish to save the data?"});
+    EXPECT_EQ(field(0, 6)->text(), "250");
+    EXPECT_EQ(field(1, 6)->text(), "");
+
+    // With no N/S code in the visible rows nothing is asked; the grid comes back to the top.
+    w->grid().scrollBar()->setValue(3);
+    dialogs.files = {path.string()};
+    w->fileopen_Click();
+    EXPECT_TRUE(dialogs.texts().empty());
+    EXPECT_EQ(w->grid().scrollBar()->value(), 0);
+    EXPECT_EQ(field(0, 1)->text(), "N");
+
+    dialogs.files = {(dir / "none.map").string()};
+    dialogs.answers = {Answer::No};
+    w->fileopen_Click();
+    EXPECT_EQ(dialogs.texts().back(), "File " + (dir / "none.map").string() + " not found.");
+
+    w->saveit(2);
+    EXPECT_TRUE(fs::exists(w->backupPath()));
+}
