@@ -1,10 +1,13 @@
 #!/usr/bin/env bash
-# `make run`: the plotter's main job on a deed. With FILE=path.map that file,
-# otherwise the built-in demo sample 1. Until the window lands this reports the
-# deed's results and draws its map to a picture.
+# `make run`: with a display (DISPLAY or WAYLAND_DISPLAY set) it opens the
+# plotter's window, on FILE=path.map when given. Without one it reports the deed
+# (FILE, or the built-in demo sample 1) and draws its map to a picture.
 set -euo pipefail
 quilmar="$1"
 file="${2:-}"
+if [ -n "${DISPLAY:-}" ] || [ -n "${WAYLAND_DISPLAY:-}" ]; then
+  if [ -n "$file" ]; then exec "$quilmar" "$file"; else exec "$quilmar"; fi
+fi
 out="${QUILMAR_OUT:-build/out}"
 mkdir -p "$out"
 if [ -z "$file" ]; then
@@ -17,3 +20,4 @@ echo "== quilmar report $file"
 picture="$out/$(basename "${file%.*}").png"
 "$quilmar" plot -o "$picture" "$file" 2>/dev/null
 echo "== The map is drawn in $picture"
+echo "== No display: run 'xvfb-run $quilmar' to open the window on a virtual one."

@@ -40,6 +40,7 @@ EntryGrid::EntryGrid(CourseTable &table, Dialogs &dialogs, std::function<void()>
     const QFontMetrics fm(font());
     const int pad = fm.averageCharWidth() * 2;
 
+    std::array<int, 10> widths{};
     for (int c = 0; c < 10; ++c) {
         auto *label = new QLabel(kHeaderCaptions[c], this);
         label->setObjectName(QString("LabelHeader_%1").arg(c));
@@ -47,10 +48,8 @@ EntryGrid::EntryGrid(CourseTable &table, Dialogs &dialogs, std::function<void()>
         label->setAccessibleName(kHeaderCaptions[c]);
         label->setAlignment(Qt::AlignCenter);
         layout->addWidget(label, 0, c);
-        const int width = std::max(fm.horizontalAdvance(QString(kHeaderCaptions[c])) + pad,
-                                   fm.horizontalAdvance(QString(kFieldDigits[c], '0')) + pad);
-        layout->setColumnMinimumWidth(c, width);
-        layout->setColumnStretch(c, kFieldDigits[c]);
+        widths[c] = std::max(fm.horizontalAdvance(QString(kHeaderCaptions[c])) + pad,
+                             fm.horizontalAdvance(QString(kFieldDigits[c], '0')) + pad);
     }
 
     m_tagMenu = new QMenu("Popup", this);
@@ -72,7 +71,8 @@ EntryGrid::EntryGrid(CourseTable &table, Dialogs &dialogs, std::function<void()>
         for (int c = 0; c < 10; ++c) {
             auto *edit = new QLineEdit(this);
             edit->setObjectName(QString("Text%1_%2").arg(c + 1).arg(r));
-            edit->setMinimumWidth(fm.horizontalAdvance(QString(kFieldDigits[c], '0')) + pad);
+            // Widths follow the font, so a larger font or scaling widens the grid.
+            edit->setFixedWidth(widths[c]);
             edit->setAlignment(c == ColNS - 1 || c == ColEW - 1 || c == ColLR - 1 || c == ColTag - 1 ? Qt::AlignCenter
                                                                                                      : Qt::AlignLeft);
             if (c == 0)

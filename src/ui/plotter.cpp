@@ -44,6 +44,9 @@ StartupSettings engineSettings(const StartupOptions &o)
     return s;
 }
 
+const char *const kHeaderHelp =
+    "Type the heading (title, description of property, etc.).  The text will be printed on the map. ";
+
 QLabel *resultLabel(const char *name, QWidget *parent)
 {
     auto *label = new QLabel(parent);
@@ -73,6 +76,7 @@ Plotter::Plotter(Dialogs &dialogs, const StartupOptions &options, QWidget *paren
     // Selecting "Standard" at start-up does not draw: only a user's choice does.
     m_scalebox->setCurrentIndex(2);
     m_engine.setScaleText(m_scalebox->currentText().toStdString());
+    resize(fontMetrics().averageCharWidth() * 170, fontMetrics().lineSpacing() * 44);
 }
 
 Plotter::~Plotter() = default;
@@ -85,10 +89,13 @@ QWidget *Plotter::buildCentral()
     central->installEventFilter(this);
 
     m_grid = new EntryGrid(m_engine.table(), m_dialogs, [this] { draw(); }, central);
+    m_grid->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(m_grid, &EntryGrid::comment, this, &Plotter::setComment);
 
     m_commentbox = resultLabel("Commentbox", central);
     m_commentbox->setWordWrap(true);
+    // The help line wraps inside the grid's width instead of widening the column.
+    m_commentbox->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_commentbox->setMinimumHeight(fontMetrics().lineSpacing() * 2 + 4);
     m_commentbox->setAlignment(Qt::AlignTop | Qt::AlignLeft);
 
@@ -96,7 +103,9 @@ QWidget *Plotter::buildCentral()
     m_headerbox->setObjectName("Headerbox");
     m_headerbox->setAccessibleName("Headerbox");
     m_headerbox->setTabChangesFocus(true);
+    m_headerbox->setPlaceholderText(kHeaderHelp);
     m_headerbox->setFixedHeight(fontMetrics().lineSpacing() * 3 + 12);
+    m_headerbox->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     m_headerbox->setAttribute(Qt::WA_Hover);
     m_headerbox->installEventFilter(this);
     connect(m_headerbox, &QPlainTextEdit::textChanged, this,
@@ -106,6 +115,7 @@ QWidget *Plotter::buildCentral()
     m_acresbox->setFrameShape(QFrame::Panel);
     m_acresbox->setFrameShadow(QFrame::Sunken);
     m_acresbox->setMinimumHeight(fontMetrics().lineSpacing() + 8);
+    m_acresbox->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 
     auto *insert = new QPushButton("&Insert a Row", central);
     insert->setObjectName("CommandInsert");
@@ -243,7 +253,7 @@ void Plotter::buildToolbar()
     bar->setObjectName("Toolbar");
     bar->setMovable(false);
     const char *tips[] = {"Re-draw Map (F8)", "Clear Line (Row)", "Clear All"};
-    const QStyle::StandardPixmap icons[] = {QStyle::SP_BrowserReload, QStyle::SP_DialogDiscardButton,
+    const QStyle::StandardPixmap icons[] = {QStyle::SP_BrowserReload, QStyle::SP_LineEditClearButton,
                                             QStyle::SP_TrashIcon};
     // Buttons 3 to 6 (print, area, perimeter, gap) come with their commands.
     for (int i = 0; i < 3; ++i) {
@@ -548,8 +558,7 @@ bool Plotter::eventFilter(QObject *watched, QEvent *event)
         if (watched == m_label1)
             setComment("Specify the scale of the mape.");
         else if (watched == m_headerbox)
-            setComment("Type the heading (title, description of property, etc.).  The text will be printed on the "
-                       "map. ");
+            setComment(kHeaderHelp);
     } else if (event->type() == QEvent::MouseMove && watched == centralWidget()) {
         setComment({});
     }
