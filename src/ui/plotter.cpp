@@ -76,6 +76,7 @@ Plotter::Plotter(Dialogs &dialogs, const StartupOptions &options, QWidget *paren
     // Selecting "Standard" at start-up does not draw: only a user's choice does.
     m_scalebox->setCurrentIndex(2);
     m_engine.setScaleText(m_scalebox->currentText().toStdString());
+    Filemenu_Click();
     resize(fontMetrics().averageCharWidth() * 170, fontMetrics().lineSpacing() * 44);
 }
 
@@ -309,6 +310,7 @@ void Plotter::showResults()
     setAcres(QString::fromStdString(m_engine.acresbox()));
     setAutoscale(QString::fromStdString(m_engine.autoscalebox()));
     m_minmap->show(&m_engine.figure(), m_engine.scaleLeft(), m_engine.scaleTop());
+    Filemenu_Click(); // the save shortcuts follow the File menu's enabling
 }
 
 void Plotter::mnuAcres_Click()

@@ -308,3 +308,31 @@ TEST_F(Window, SaveOpenAndAFailedSaveKeepsTheOldFile)
     w->saveit(2);
     EXPECT_TRUE(fs::exists(w->backupPath()));
 }
+
+TEST_F(Window, EditMenuWorksOnTheFocusedField)
+{
+    click(field(1, 6));
+    type("123");
+    QMenu *edit = child<QMenu>("Editmenu");
+    emit edit->aboutToShow();
+    EXPECT_FALSE(child<QAction>("Editcopy")->isEnabled()); // nothing selected
+    EXPECT_TRUE(child<QAction>("EditUndo")->isEnabled());
+    field(1, 6)->selectAll();
+    emit edit->aboutToShow();
+    EXPECT_TRUE(child<QAction>("Editcut")->isEnabled());
+    child<QAction>("Editcut")->trigger();
+    emit edit->aboutToHide();
+    EXPECT_EQ(field(1, 6)->text(), "");
+    click(field(2, 7));
+    child<QAction>("Editpaste")->trigger();
+    EXPECT_EQ(field(2, 7)->text(), "123");
+    click(field(3, 1));
+    EXPECT_EQ(cell(2, ColChord), "123"); // a pasted value is stored like a typed one
+
+    start(false); // metric: Calculate Acres is hidden, and Ctrl+A still selects nothing
+    click(field(0, 6));
+    type("45");
+    QTest::keyClick(field(0, 6), Qt::Key_A, Qt::ControlModifier);
+    EXPECT_FALSE(field(0, 6)->hasSelectedText());
+    EXPECT_EQ(field(0, 6)->text(), "45");
+}

@@ -1,0 +1,83 @@
+// Start-up to first paint, and peak memory, of the Plotter window against a
+// bare Qt Widgets window; bench/window_startup.sh runs both and compares.
+// Usage: quilmar_window_startup bare|plotter   (prints milliseconds and kilobytes)
+
+#include <sys/resource.h>
+
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QTimer>
+#include <QWidget>
+
+#include "plotter.h"
+
+namespace {
+
+QElapsedTimer g_clock;
+
+void reportAndQuit()
+{
+    const double ms = double(g_clock.nsecsElapsed()) / 1e6;
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    std::printf("first_paint_ms %.2f max_rss_kb %ld\n", ms, usage.ru_maxrss);
+    QTimer::singleShot(0, qApp, &QApplication::quit);
+}
+
+// Quits after its first paint.
+class FirstPaint : public QObject {
+public:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint && !m_done) {
+            m_done = true;
+            QTimer::singleShot(0, qApp, reportAndQuit);
+        }
+        return false;
+    }
+
+private:
+    bool m_done = false;
+};
+
+class Silent : public quilmar::Dialogs {
+public:
+    quilmar::Answer ask(const std::string &, const std::string &, quilmar::Buttons, quilmar::Icon) override
+    {
+        return quilmar::Answer::No;
+    }
+    std::optional<std::string> inputBox(const std::string &, const std::string &, const std::string &) override
+    {
+        return std::nullopt;
+    }
+    std::optional<std::string> fileName(quilmar::FileMode, const std::string &, const std::string &) override
+    {
+        return std::nullopt;
+    }
+};
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    g_clock.start();
+    const bool plotter = argc > 1 && std::strcmp(argv[1], "plotter") == 0;
+    QApplication app(argc, argv);
+    FirstPaint watch;
+    Silent dialogs;
+    std::unique_ptr<QWidget> window;
+    if (plotter) {
+        window = std::make_unique<quilmar::Plotter>(
+            dialogs, quilmar::startupOptionsFor(QCoreApplication::applicationFilePath().toStdString()));
+    } else {
+        window = std::make_unique<QWidget>();
+        window->resize(1020, 620);
+    }
+    window->installEventFilter(&watch);
+    window->show();
+    return app.exec();
+}
