@@ -1,6 +1,8 @@
 // Start-up to first paint, and peak memory, of the Plotter window against a
 // bare Qt Widgets window; bench/window_startup.sh runs both and compares.
-// Usage: quilmar_window_startup bare|plotter   (prints milliseconds and kilobytes)
+// Usage: quilmar_window_startup bare|label|plotter   (prints milliseconds and kilobytes)
+// "label" is the bare window with one line of text: it shows what the font
+// start-up (fontconfig, freetype) alone costs, which the bare window never pays.
 
 #include <sys/resource.h>
 
@@ -10,6 +12,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QTimer>
 #include <QWidget>
 
@@ -76,6 +79,8 @@ int main(int argc, char **argv)
     } else {
         window = std::make_unique<QWidget>();
         window->resize(1020, 620);
+        if (argc > 1 && std::strcmp(argv[1], "label") == 0)
+            new QLabel("Enter Metes and Bounds here", window.get());
     }
     window->installEventFilter(&watch);
     window->show();

@@ -77,7 +77,6 @@ EntryGrid::EntryGrid(CourseTable &table, Dialogs &dialogs, std::function<void()>
                                                                                                      : Qt::AlignLeft);
             if (c == 0)
                 edit->setToolTip("N, S, E or W");
-            edit->setAutoFillBackground(true);
             edit->installEventFilter(this);
             edit->setAttribute(Qt::WA_Hover);
             const FieldRef f{r, c + 1};
@@ -106,7 +105,10 @@ EntryGrid::EntryGrid(CourseTable &table, Dialogs &dialogs, std::function<void()>
     m_utility->setFixedSize(0, 0);
     layout->addWidget(m_utility, 0, 10);
 
-    m_colours.fill({});
+    // The style's own base colour is the white of the fields: only the tag
+    // column and the focused field need a palette of their own.
+    for (auto &row : m_colours)
+        row.fill(kFieldColour);
     sync();
 }
 
