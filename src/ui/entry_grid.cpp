@@ -105,10 +105,11 @@ EntryGrid::EntryGrid(CourseTable &table, Dialogs &dialogs, std::function<void()>
     m_utility->setFixedSize(0, 0);
     layout->addWidget(m_utility, 0, 10);
 
-    // The style's own base colour is the white of the fields: only the tag
-    // column and the focused field need a palette of their own.
+    // Where the style's own base colour is the white of the fields, only the
+    // tag column and the focused field need a palette of their own (faster start).
+    const bool styleWhite = palette().color(QPalette::Base) == rgb(kFieldColour);
     for (auto &row : m_colours)
-        row.fill(kFieldColour);
+        row.fill(styleWhite ? kFieldColour : 0);
     sync();
 }
 
