@@ -9,6 +9,7 @@ PACKAGES=(
   libgtest-dev libgmock-dev libbenchmark-dev libinih-dev libcli11-dev
   fonts-dejavu-core
   xvfb xauth xdotool imagemagick poppler-utils
+  at-spi2-core python3-pyatspi dbus
 )
 
 missing=()
