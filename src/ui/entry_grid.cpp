@@ -201,7 +201,10 @@ bool EntryGrid::fieldKey(FieldRef f, QKeyEvent *event)
         return false;
     } else if (key == Qt::Key_Backspace && mods == Qt::NoModifier) {
         code = 8;
-    } else if (mods == Qt::NoModifier && !event->text().isEmpty() && event->text()[0].unicode() >= 32) {
+    } else if (!(mods & (Qt::AltModifier | Qt::MetaModifier)) && !event->text().isEmpty() &&
+               event->text()[0].unicode() != 0) {
+        // Every character reaches the filter, control characters (Ctrl+letter,
+        // Escape) included, as each column's rule decides about them.
         code = event->text().toUcs4().value(0);
     } else {
         return false;

@@ -9,6 +9,7 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -109,6 +110,7 @@ QWidget *Plotter::buildCentral()
     m_headerbox->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     m_headerbox->setAttribute(Qt::WA_Hover);
     m_headerbox->installEventFilter(this);
+    m_headerbox->viewport()->installEventFilter(this);
     connect(m_headerbox, &QPlainTextEdit::textChanged, this,
             [this] { m_engine.setDescription(m_headerbox->toPlainText().toStdString()); });
 
@@ -158,6 +160,7 @@ QWidget *Plotter::buildCentral()
     m_scalebox->setInsertPolicy(QComboBox::NoInsert);
     m_scalebox->setMinimumContentsLength(10);
     m_label1->setBuddy(m_scalebox);
+    m_scalebox->lineEdit()->installEventFilter(this);
     connect(m_scalebox, &QComboBox::editTextChanged, this,
             [this](const QString &t) { m_engine.setScaleText(t.toStdString()); });
     connect(m_scalebox, &QComboBox::activated, this, &Plotter::Scalebox_Click);
@@ -556,6 +559,14 @@ void Plotter::closeEvent(QCloseEvent *event)
 
 bool Plotter::eventFilter(QObject *watched, QEvent *event)
 {
+    // Ctrl+A calculates acres everywhere in the window; it never selects text.
+    if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) {
+        auto *k = static_cast<QKeyEvent *>(event);
+        if (k->modifiers() == Qt::ControlModifier && k->key() == Qt::Key_A) {
+            event->ignore();
+            return true;
+        }
+    }
     if (event->type() == QEvent::HoverEnter || event->type() == QEvent::HoverMove) {
         if (watched == m_label1)
             setComment("Specify the scale of the mape.");

@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -155,7 +156,11 @@ TEST_F(Window, MessagesAndFocusFromTheRules)
     EXPECT_EQ(cell(3, ColMin), "60"); // stored all the same
 
     QTest::keyClick(field(3, 3), 'q'); // refused with a beep
+    QTest::keyClick(field(3, 3), Qt::Key_K, Qt::ControlModifier); // a control character too
     EXPECT_EQ(field(3, 3)->text(), "60");
+    click(field(3, 1));
+    QTest::keyClick(field(3, 1), Qt::Key_Escape); // any key toggles the N/S code
+    EXPECT_EQ(field(3, 1)->text(), "N");
 }
 
 TEST_F(Window, ScrollingWithAPendingEditKeepsItInItsRow)
@@ -335,4 +340,10 @@ TEST_F(Window, EditMenuWorksOnTheFocusedField)
     QTest::keyClick(field(0, 6), Qt::Key_A, Qt::ControlModifier);
     EXPECT_FALSE(field(0, 6)->hasSelectedText());
     EXPECT_EQ(field(0, 6)->text(), "45");
+    auto *heading = child<QPlainTextEdit>("Headerbox");
+    heading->setFocus();
+    QTest::keyClicks(heading, "Lot 7");
+    QTest::keyClick(heading, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_FALSE(heading->textCursor().hasSelection());
+    EXPECT_EQ(w->engine().description(), "Lot 7");
 }
