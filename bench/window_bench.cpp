@@ -35,7 +35,7 @@ void BM_LeaveChangedDistance(benchmark::State &state)
     const auto folder = std::filesystem::temp_directory_path() / "quilmar_bench_window";
     std::filesystem::create_directories(folder);
     Plotter w(dialogs, startupOptionsIn(folder.string(), "quilmar", true));
-    CourseTable &t = w.engine().table();
+    CourseTable &t = w.engine().editTable();
     t.at(0, ColTag) = "B";
     for (int r = 1; r < CourseTable::kRows; ++r) {
         t.at(r, ColNS) = r % 2 ? "N" : "S";

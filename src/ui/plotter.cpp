@@ -90,7 +90,7 @@ QWidget *Plotter::buildCentral()
     central->setMouseTracking(true);
     central->installEventFilter(this);
 
-    m_grid = new EntryGrid(m_engine.table(), m_dialogs, [this] { draw(); }, central);
+    m_grid = new EntryGrid(m_engine.editTable(), m_dialogs, [this] { draw(); }, central);
     m_grid->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(m_grid, &EntryGrid::comment, this, &Plotter::setComment);
 
@@ -304,7 +304,7 @@ void Plotter::draw()
     // The fit follows the canvas's size now, not at the last resize.
     m_engine.setCanvasSize(float(m_minmap->width() * MapCanvas::kTwipsPerPixel),
                            float(m_minmap->height() * MapCanvas::kTwipsPerPixel));
-    m_engine.mindraw();
+    m_engine.redraw();
     showResults();
 }
 
@@ -312,7 +312,8 @@ void Plotter::showResults()
 {
     setAcres(QString::fromStdString(m_engine.acresbox()));
     setAutoscale(QString::fromStdString(m_engine.autoscalebox()));
-    m_minmap->show(&m_engine.figure(), m_engine.scaleLeft(), m_engine.scaleTop());
+    const CanvasView view = m_engine.canvasView();
+    m_minmap->show(&m_engine.figure(), view.scaleLeft, view.scaleTop);
     Filemenu_Click(); // the save shortcuts follow the File menu's enabling
 }
 
@@ -431,7 +432,7 @@ void Plotter::addScale_Click()
 
 void Plotter::metrix_Click(int index)
 {
-    m_engine.metrix_Click(index);
+    m_engine.metrix_Click(static_cast<Units>(index));
     // The conversion menus' unit-dependent entries are shown and hidden here.
 }
 
@@ -490,7 +491,7 @@ void Plotter::openFile(const std::string &path)
     clearScreenSide();
     m_engine.setCanvasSize(float(m_minmap->width() * MapCanvas::kTwipsPerPixel),
                            float(m_minmap->height() * MapCanvas::kTwipsPerPixel));
-    if (!m_engine.openMapFile(path))
+    if (!m_engine.openMapFile(path).ok())
         return;
     QString description = QString::fromStdString(m_engine.description());
     description.replace("\r\n", "\n");
