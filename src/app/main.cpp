@@ -15,7 +15,7 @@ namespace {
 // or looks like a map file name (the window then says "File ... not found.").
 bool isMapFileArgument(const std::string &word)
 {
-    if (isSubcommandName(word) || word == "help" || word.empty() || word[0] == '-')
+    if (quilmar::isSubcommandName(word) || word == "help" || word.empty() || word[0] == '-')
         return false;
     if (std::filesystem::is_regular_file(word))
         return true;
