@@ -155,6 +155,9 @@ TEST_F(Window, MessagesAndFocusFromTheRules)
     EXPECT_EQ(QApplication::focusWidget(), field(3, 3));
     EXPECT_EQ(cell(3, ColMin), "60"); // stored all the same
 
+    EXPECT_EQ(field(3, 3)->palette().color(QPalette::Base), QColor(255, 255, 128)); // focused: light yellow
+    EXPECT_EQ(field(3, 10)->palette().color(QPalette::Base), QColor(224, 224, 224)); // tags: light grey
+    EXPECT_EQ(field(3, 4)->palette().color(QPalette::Base), QColor(255, 255, 255));
     QTest::keyClick(field(3, 3), 'q'); // refused with a beep
     QTest::keyClick(field(3, 3), Qt::Key_K, Qt::ControlModifier); // a control character too
     EXPECT_EQ(field(3, 3)->text(), "60");
@@ -187,6 +190,9 @@ TEST_F(Window, TagMenuAndRowButtons)
     EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"The Close tag must be placed on a new line."});
     menu->findChild<QAction *>("mnuPopup2")->trigger();
     EXPECT_EQ(field(2, 10)->text(), "B");
+    QTest::mouseDClick(field(2, 10), Qt::LeftButton); // double-click shows the menu again
+    EXPECT_TRUE(menu->isVisible());
+    menu->hide();
 
     click(field(2, 1));
     QTest::keyClick(field(2, 1), Qt::Key_Insert);
