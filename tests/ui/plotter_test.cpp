@@ -97,6 +97,9 @@ TEST_F(Window, StartsWithTheScaleListUnitsAndNames)
     EXPECT_EQ(field(0, 1)->objectName(), "Text1_0");
     EXPECT_EQ(field(9, 10)->objectName(), "Text10_9");
     EXPECT_EQ(field(0, 2)->accessibleName(), "Row 1 Deg");
+    QTest::mouseMove(field(5, 2));
+    EXPECT_EQ(child<QLabel>("Commentbox")->text(), "Row 6");
+    EXPECT_EQ(child<QLabel>("Commentbox")->accessibleDescription(), "Row 6");
     w->grid().scrollBar()->setValue(11);
     EXPECT_EQ(field(0, 6)->accessibleName(), "Row 12 Distance");
 
