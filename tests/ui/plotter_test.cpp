@@ -126,6 +126,7 @@ TEST_F(Window, TypingTheSquareDrawsItAndCtrlAGivesAcres)
     EXPECT_EQ(cell(4, ColDistance), "100");
     EXPECT_TRUE(w->engine().mapComputed());
     EXPECT_FALSE(w->engine().figure().items.empty());
+    EXPECT_TRUE(child<QLabel>("Autoscalebox")->text().startsWith("AutoScale = "));
     EXPECT_TRUE(dialogs.asked.empty());
 
     QTest::keyClick(field(5, 1), Qt::Key_A, Qt::ControlModifier);
