@@ -1,0 +1,304 @@
+#include "blunder_search.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <unordered_set>
+
+#include "bearing_text.h"
+#include "vb_math.h"
+
+namespace quilmar::analysis {
+
+namespace {
+
+struct Change {
+    int column = 0; ///< 1 to 10
+    std::string text;
+};
+
+struct Candidate {
+    BlunderKind kind;
+    Change first;
+    std::optional<Change> second;
+};
+
+struct Vec {
+    double n = 0.0, e = 0.0;
+};
+
+Vec rotateClockwise(Vec v, double degrees)
+{
+    const double a = degrees * kPi / 180.0;
+    return {v.n * std::cos(a) - v.e * std::sin(a), v.e * std::cos(a) + v.n * std::sin(a)};
+}
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+// The digits of a cell's leading number: [begin, end) after blanks and sign.
+bool numberSpan(const std::string &t, size_t &begin, size_t &end)
+{
+    size_t i = t.find_first_not_of(' ');
+    if (i == std::string::npos)
+        return false;
+    if (t[i] == '+' || t[i] == '-')
+        ++i;
+    begin = i;
+    bool digits = false, point = false;
+    while (i < t.size() && (isDigit(t[i]) || (t[i] == '.' && !point))) {
+        point = point || t[i] == '.';
+        digits = digits || isDigit(t[i]);
+        ++i;
+    }
+    end = i;
+    return digits;
+}
+
+// Moves the decimal point one place right (@p right) or left.
+std::string shiftPoint(const std::string &t, size_t begin, size_t end, bool right)
+{
+    std::string num = t.substr(begin, end - begin);
+    size_t p = num.find('.');
+    std::string whole = p == std::string::npos ? num : num.substr(0, p);
+    std::string frac = p == std::string::npos ? "" : num.substr(p + 1);
+    if (right) {
+        whole += frac.empty() ? '0' : frac[0];
+        if (!frac.empty())
+            frac.erase(0, 1);
+    } else {
+        frac.insert(frac.begin(), whole.empty() ? '0' : whole.back());
+        if (!whole.empty())
+            whole.pop_back();
+    }
+    while (whole.size() > 1 && whole[0] == '0')
+        whole.erase(0, 1);
+    if (whole.empty())
+        whole = "0";
+    return t.substr(0, begin) + whole + (frac.empty() ? "" : "." + frac) + t.substr(end);
+}
+
+void lengthCandidates(const std::string &t, int column, std::vector<Candidate> &out)
+{
+    size_t b = 0, e = 0;
+    if (!numberSpan(t, b, e))
+        return;
+    const double old = textValue(t);
+    auto add = [&](BlunderKind kind, std::string text) {
+        if (textValue(text) != old)
+            out.push_back({kind, {column, std::move(text)}, {}});
+    };
+    for (size_t k = b; k + 1 < e; ++k) {
+        if (isDigit(t[k]) && isDigit(t[k + 1]) && t[k] != t[k + 1]) {
+            std::string s = t;
+            std::swap(s[k], s[k + 1]);
+            add(BlunderKind::Transpose, std::move(s));
+        }
+    }
+    for (size_t k = b; k <= e; ++k)
+        for (char d = '0'; d <= '9'; ++d)
+            add(BlunderKind::DropDigit, t.substr(0, k) + d + t.substr(k));
+    for (size_t k = b; k + 1 < e; ++k)
+        if (isDigit(t[k]) && t[k] == t[k + 1])
+            add(BlunderKind::DoubleDigit, t.substr(0, k) + t.substr(k + 1));
+    add(BlunderKind::TimesTen, shiftPoint(t, b, e, false));
+    add(BlunderKind::TimesTen, shiftPoint(t, b, e, true));
+    add(BlunderKind::ChainsFeet, t.substr(0, b) + trimmedFixed(old * 66.0, 4) + t.substr(e));
+}
+
+std::vector<Candidate> candidatesFor(const RowCells &cells, const CourseReading &course)
+{
+    std::vector<Candidate> out;
+    const std::string ns = trimmed(cellText(cells[ColNS - 1]));
+    const std::string ew = trimmed(cellText(cells[ColEW - 1]));
+    if (ns == "N" || ns == "S")
+        out.push_back({BlunderKind::NsFlip, {ColNS, ns == "N" ? "S" : "N"}, {}});
+    if (ns == "E" || ns == "W")
+        out.push_back({BlunderKind::EwFlip, {ColNS, ns == "E" ? "W" : "E"}, {}});
+    else if (ew == "E" || ew == "W")
+        out.push_back({BlunderKind::EwFlip, {ColEW, ew == "E" ? "W" : "E"}, {}});
+    const std::string deg = cellText(cells[ColDeg - 1]), min = cellText(cells[ColMin - 1]);
+    if (!ns.empty() && ns != "E" && ns != "W" && !trimmed(deg).empty() && !trimmed(min).empty()) {
+        const double dv = textValue(deg), mv = textValue(min);
+        if (dv != mv && mv <= 90.0 && dv < 60.0)
+            out.push_back({BlunderKind::DegMinSwap, {ColDeg, min}, Change{ColMin, deg}});
+    }
+    int column = ColDistance;
+    if (course.curve() && cells[ColDistance - 1].isEmpty() && !cells[ColChord - 1].isEmpty())
+        column = ColChord;
+    const std::string length = cellText(cells[column - 1]);
+    lengthCandidates(length, column, out);
+    return out;
+}
+
+struct Ranked {
+    Suggestion suggestion;
+    double score = 0.0;
+};
+
+std::optional<double> precisionOf(double perimeter, double gap)
+{
+    if (gap == 0.0)
+        return std::nullopt;
+    return perimeter / gap;
+}
+
+} // namespace
+
+Gap makeGap(double north, double east)
+{
+    Gap g;
+    g.north = north;
+    g.east = east;
+    g.distance = std::hypot(north, east);
+    g.bearing = bearingText(-north, -east);
+    return g;
+}
+
+std::vector<Suggestion> searchBlunders(const CourseTable &table, const LotFigure &lot, RowReader &reader)
+{
+    const Vec gap{lot.gapNorth, lot.gapEast};
+    const double gapLength = std::hypot(gap.n, gap.e);
+    if (gapLength == 0.0 || lot.perimeter / gapLength >= kSearchBelowPrecision)
+        return {};
+
+    // What turns with each row: the calls after it that follow its running direction.
+    const size_t count = lot.rows.size();
+    std::vector<Vec> chain(count);
+    for (size_t i = count; i-- > 0;) {
+        if (i + 1 >= count)
+            continue;
+        const FigureRow &next = lot.rows[i + 1];
+        Vec v = next.reading.directionFollows ? Vec{next.north, next.east} : Vec{};
+        if (next.reading.runningFollows) {
+            v.n += chain[i + 1].n;
+            v.e += chain[i + 1].e;
+        }
+        chain[i] = v;
+    }
+
+    std::vector<Ranked> ranked;
+    auto consider = [&](BlunderKind kind, int row, std::array<std::string, CourseTable::kColumns> cells, Vec newGap,
+                        double perimeter, double floor) {
+        const double left = std::hypot(newGap.n, newGap.e);
+        if (!(left <= gapLength / 2.0))
+            return;
+        Ranked r;
+        r.suggestion.row = row;
+        r.suggestion.kind = kind;
+        r.suggestion.cells = std::move(cells);
+        r.suggestion.gap = makeGap(newGap.n, newGap.e);
+        r.suggestion.precision = precisionOf(perimeter, left);
+        r.score = std::max(left, floor);
+        ranked.push_back(std::move(r));
+    };
+
+    for (size_t i = 0; i < count; ++i) {
+        const FigureRow &f = lot.rows[i];
+        if (!f.moves())
+            continue;
+        const CourseReading &course = f.reading.course;
+        const RowCells cells = rowCells(table, f.row);
+        const double oldArc = std::fabs(course.arc != 0.0 ? course.arc : course.length);
+        std::unordered_set<std::string> seen;
+        for (Candidate &c : candidatesFor(cells, course)) {
+            std::string key = std::to_string(c.first.column) + '|' + c.first.text;
+            if (!seen.insert(std::move(key)).second)
+                continue;
+            CourseReading changed;
+            const double newValue = c.first.column == ColDistance ? textValue(c.first.text) : 0.0;
+            if (!course.curve() && c.first.column == ColDistance && course.length > 0.0 && newValue > 0.0) {
+                // A straight course keeps its direction; only its length changes.
+                changed = course;
+                changed.length = changed.arc = newValue;
+            } else {
+                RowCells modified = cells;
+                modified[c.first.column - 1] = Cell(c.first.text);
+                if (c.second)
+                    modified[c.second->column - 1] = Cell(c.second->text);
+                changed = reader.read(modified, f.reading.runningBefore);
+            }
+            Vec newGap{gap.n - f.north + changed.north(), gap.e - f.east + changed.east()};
+            const double turn = double(changed.runningAfter) - double(course.runningAfter);
+            if (turn != 0.0) {
+                const Vec r = rotateClockwise(chain[i], turn);
+                newGap.n += r.n - chain[i].n;
+                newGap.e += r.e - chain[i].e;
+            }
+            if (!(std::hypot(newGap.n, newGap.e) <= gapLength / 2.0))
+                continue;
+            const double newArc = std::fabs(changed.arc != 0.0 ? changed.arc : changed.length);
+            std::array<std::string, CourseTable::kColumns> texts;
+            for (int k = 0; k < CourseTable::kColumns; ++k)
+                texts[k] = cellText(cells[k]);
+            texts[c.first.column - 1] = c.first.text;
+            if (c.second)
+                texts[c.second->column - 1] = c.second->text;
+            consider(c.kind, f.row, std::move(texts), newGap, lot.perimeter - oldArc + newArc, 0.0);
+        }
+    }
+
+    // An omitted call goes where nothing after it turns with it: at the figure's
+    // end if it can, else before the last call that stands on its own bearing.
+    const bool tableFull = [&] {
+        for (int c = 1; c <= CourseTable::kColumns; ++c)
+            if (!table.at(CourseTable::kRows - 1, c).isEmpty())
+                return true;
+        return false;
+    }();
+    if (!tableFull) {
+        int lastEntry = lot.rows.front().row;
+        for (const FigureRow &f : lot.rows)
+            if (f.reading.hasContent)
+                lastEntry = f.row;
+        const int endRow = lot.closeRow >= 0 ? lot.closeRow : lastEntry + 1;
+        const int lastAllowed = lot.endsWithNewLot && lot.closeRow < 0 ? lot.lotEnd : endRow;
+        std::optional<int> at;
+        float runningBefore = lot.rows.back().reading.course.runningAfter;
+        if (endRow <= lastAllowed) {
+            at = endRow;
+        } else {
+            for (size_t i = count; i-- > 0;) {
+                const FigureRow &f = lot.rows[i];
+                if (f.row <= lastAllowed && !f.reading.directionFollows && !f.reading.runningFollows) {
+                    at = f.row;
+                    runningBefore = f.reading.runningBefore;
+                    break;
+                }
+            }
+        }
+        if (at && *at < CourseTable::kRows) {
+            const BearingCells b = bearingCells(-gap.n, -gap.e);
+            std::array<std::string, CourseTable::kColumns> texts{b.ns, b.degrees, b.minutes, b.seconds, b.ew,
+                                                                 trimmedFixed(gapLength, 2)};
+            RowCells cells;
+            for (int k = 0; k < CourseTable::kColumns; ++k)
+                cells[k] = Cell(texts[k]);
+            const CourseReading inserted = reader.read(cells, runningBefore);
+            const Vec newGap{gap.n + inserted.north(), gap.e + inserted.east()};
+            consider(BlunderKind::Omitted, *at, std::move(texts), newGap, lot.perimeter + std::fabs(inserted.arc),
+                     lot.perimeter / kSearchBelowPrecision);
+        }
+    }
+
+    std::stable_sort(ranked.begin(), ranked.end(), [](const Ranked &a, const Ranked &b) {
+        if (a.score != b.score)
+            return a.score < b.score;
+        if (a.suggestion.kind != b.suggestion.kind)
+            return a.suggestion.kind < b.suggestion.kind;
+        return a.suggestion.row < b.suggestion.row;
+    });
+    std::vector<Suggestion> out;
+    for (Ranked &r : ranked) {
+        if (int(out.size()) == kMaxSuggestions)
+            break;
+        const bool duplicate = std::any_of(out.begin(), out.end(), [&](const Suggestion &s) {
+            return s.row == r.suggestion.row && s.cells == r.suggestion.cells && s.kind != BlunderKind::Omitted &&
+                   r.suggestion.kind != BlunderKind::Omitted;
+        });
+        if (!duplicate)
+            out.push_back(std::move(r.suggestion));
+    }
+    return out;
+}
+
+} // namespace quilmar::analysis

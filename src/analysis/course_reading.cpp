@@ -1,0 +1,130 @@
+#include "course_reading.h"
+
+#include <charconv>
+#include <cmath>
+
+#include "course_conversion.h"
+#include "number_read.h"
+#include "vb_math.h"
+
+namespace quilmar::analysis {
+
+namespace {
+
+// Scratch rows: a seed whose code is none of the quadrants, so its direction is
+// its angle, sets the running direction exactly; the row read; a tangent probe
+// that takes the running direction the row hands on.
+constexpr int kSeed = 0, kRow = 1, kProbe = 2;
+
+RowTag tagOf(const std::string &text)
+{
+    const std::string_view t = trimBlanks(text);
+    if (t == "B")
+        return RowTag::Begin;
+    if (t == "C")
+        return RowTag::Close;
+    if (t == "N")
+        return RowTag::NewLot;
+    if (t == "O")
+        return RowTag::Origin;
+    return RowTag::None;
+}
+
+} // namespace
+
+double CourseReading::north() const { return -length * std::sin(direction * kPi / 180.0); }
+double CourseReading::east() const { return length * std::cos(direction * kPi / 180.0); }
+
+RowReader::RowReader() : m_scratch(std::make_unique<CourseTable>())
+{
+    m_scratch->at(kSeed, ColNS) = "X";
+    m_scratch->at(kProbe, ColDistance) = "1";
+    m_scratch->highest = 1;
+}
+
+RowReader::~RowReader() = default;
+
+CourseReading RowReader::read(const RowCells &cells, float runningBefore)
+{
+    CourseTable &t = *m_scratch;
+    t.at(kSeed, ColDeg) = Cell(double(runningBefore));
+    for (int c = 0; c < CourseTable::kColumns; ++c)
+        t.at(kRow, c + 1) = cells[c];
+    t.highest = 1;
+    try {
+        convertCourses(t, m_legs, [](const std::string &) {});
+    } catch (const VbError &) {
+        // An overflowing cell: the plotter stops its computation; here the row moves nothing.
+        CourseReading none;
+        none.runningAfter = runningBefore;
+        return none;
+    }
+    const Leg &leg = m_legs[kRow];
+    CourseReading r;
+    r.direction = leg.directionValue();
+    r.radius = leg.radiusValue;
+    r.right = trimBlanks(leg.lr) == "R";
+    r.tag = tagOf(leg.tag);
+    if (r.radius == 0.0) {
+        r.length = leg.distanceValue;
+        r.arc = leg.distanceValue;
+    } else {
+        r.length = leg.chordValue;
+        r.arc = leg.distanceValue != 0.0 ? leg.distanceValue : leg.chordValue;
+    }
+    r.runningAfter = m_legs[kProbe].directionValue();
+    return r;
+}
+
+RowCells rowCells(const CourseTable &table, int row)
+{
+    RowCells cells;
+    for (int c = 0; c < CourseTable::kColumns; ++c)
+        cells[c] = table.at(row, c + 1);
+    return cells;
+}
+
+std::vector<RowReading> readRows(const CourseTable &table, RowReader &reader)
+{
+    const int highest = std::min<int>(table.highest, CourseTable::kMaxHighest);
+    std::vector<RowReading> rows;
+    rows.reserve(highest + 2);
+    float running = 0.0f;
+    for (int i = 0; i <= highest + 1; ++i) {
+        const RowCells cells = rowCells(table, i);
+        RowReading r;
+        r.runningBefore = running;
+        r.course = reader.read(cells, running);
+        // Read once more after a different course: what moves with it follows it.
+        const CourseReading turned = reader.read(cells, running + 1.0f);
+        r.directionFollows = turned.direction != r.course.direction;
+        r.runningFollows = turned.runningAfter != r.course.runningAfter;
+        for (const Cell &c : cells)
+            r.hasContent = r.hasContent || !c.isEmpty();
+        running = r.course.runningAfter;
+        rows.push_back(std::move(r));
+    }
+    return rows;
+}
+
+std::string cellText(const Cell &cell)
+{
+    if (!cell.isNumber())
+        return cell.text();
+    char buf[40];
+    auto [end, ec] = std::to_chars(buf, buf + sizeof buf, cell.number());
+    return ec == std::errc() ? std::string(buf, end) : std::string();
+}
+
+double textValue(const std::string &text)
+{
+    try {
+        return leadingNumber(text);
+    } catch (const VbError &) {
+        return 0.0;
+    }
+}
+
+std::string trimmed(const std::string &text) { return std::string(trimBlanks(text)); }
+
+} // namespace quilmar::analysis

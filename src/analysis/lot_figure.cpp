@@ -1,0 +1,98 @@
+#include "lot_figure.h"
+
+#include <cmath>
+
+namespace quilmar::analysis {
+
+int LotFigure::callCount() const
+{
+    int n = 0;
+    for (const FigureRow &r : rows)
+        n += r.moves() ? 1 : 0;
+    return n;
+}
+
+std::vector<LotFigure> findLots(const std::vector<RowReading> &rows)
+{
+    const int count = int(rows.size());
+    // The walk's pen before each row, in the plotter's manner: a "C" row returns
+    // to the point of beginning, "N" to the origin, "O" sets the origin.
+    std::vector<double> beforeN(count + 1), beforeE(count + 1);
+    double n = 0.0, e = 0.0, pobN = 0.0, pobE = 0.0, originN = 0.0, originE = 0.0;
+    for (int i = 0; i < count; ++i) {
+        beforeN[i] = n;
+        beforeE[i] = e;
+        const CourseReading &c = rows[i].course;
+        if (c.tag == RowTag::Close) {
+            n = pobN;
+            e = pobE;
+            continue;
+        }
+        n += c.north();
+        e += c.east();
+        if (c.tag == RowTag::NewLot) {
+            n = originN;
+            e = originE;
+        } else if (c.tag == RowTag::Begin) {
+            pobN = n;
+            pobE = e;
+        } else if (c.tag == RowTag::Origin) {
+            originN = n;
+            originE = e;
+        }
+    }
+    beforeN[count] = n;
+    beforeE[count] = e;
+
+    std::vector<LotFigure> lots;
+    int start = 0;
+    while (start < count) {
+        int end = start;
+        while (end < count - 1 && rows[end].course.tag != RowTag::NewLot)
+            ++end;
+        LotFigure lot;
+        lot.lotEnd = end;
+        lot.endsWithNewLot = rows[end].course.tag == RowTag::NewLot;
+        int figureEnd = end + 1;
+        for (int i = start; i <= end; ++i) {
+            if (rows[i].course.tag == RowTag::Close) {
+                lot.closeRow = i;
+                figureEnd = i;
+                break;
+            }
+        }
+        for (int i = start; i < figureEnd; ++i)
+            if (rows[i].course.tag == RowTag::Begin)
+                lot.pobRow = i;
+        const int figureStart = lot.pobRow >= 0 ? lot.pobRow + 1 : start;
+        lot.startNorth = beforeN[figureStart];
+        lot.startEast = beforeE[figureStart];
+        for (int i = figureStart; i < figureEnd; ++i) {
+            FigureRow f;
+            f.row = i;
+            f.reading = rows[i];
+            f.north = rows[i].course.north();
+            f.east = rows[i].course.east();
+            if (f.moves()) {
+                lot.gapNorth += f.north;
+                lot.gapEast += f.east;
+                lot.perimeter += std::fabs(f.reading.course.arc != 0.0 ? f.reading.course.arc : f.reading.course.length);
+            }
+            lot.rows.push_back(std::move(f));
+        }
+        lot.firstRow = -1;
+        for (int i = start; i <= end; ++i) {
+            if (rows[i].hasContent) {
+                if (lot.firstRow < 0)
+                    lot.firstRow = i;
+                lot.lastRow = i;
+            }
+        }
+        if (lot.callCount() > 0)
+            lots.push_back(std::move(lot));
+        start = end + 1;
+    }
+    return lots;
+}
+
+} // namespace quilmar::analysis

@@ -1,0 +1,287 @@
+// quilmar closure: the analysis of each lot's misclosure, adjustments and likely
+// bad calls, as text or as JSON for other programs.
+
+#include "cli_closure.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <charconv>
+#include <cmath>
+#include <ostream>
+#include <sstream>
+
+#include "closure_report.h"
+#include "cli_commands.h"
+#include "engine.h"
+#include "lot_gap_text.h"
+#include "recording_prompter.h"
+
+namespace quilmar {
+
+namespace {
+
+using namespace analysis;
+
+QString qs(std::string_view s) { return QString::fromUtf8(s.data(), qsizetype(s.size())); }
+
+QJsonValue optionalJson(const std::optional<double> &v) { return v ? QJsonValue(*v) : QJsonValue(); }
+
+QJsonObject gapJson(const Gap &g)
+{
+    return {{"distance", g.distance}, {"bearing", qs(g.bearing)}, {"north", g.north}, {"east", g.east}};
+}
+
+QJsonArray adjustmentJson(const Adjustment &a)
+{
+    QJsonArray calls;
+    for (const AdjustedCall &c : a.calls)
+        calls.append(QJsonObject{{"row", c.row},
+                                 {"north", c.north},
+                                 {"east", c.east},
+                                 {"bearing", qs(c.bearing)},
+                                 {"distance", c.distance},
+                                 {"arc", optionalJson(c.arc)},
+                                 {"bearing_change", c.bearingChange},
+                                 {"distance_change", c.distanceChange},
+                                 {"curve", c.curve}});
+    return calls;
+}
+
+// "12,345.679": fixed decimals, thousands grouped, "." as the point.
+std::string grouped(double v, int decimals)
+{
+    char buf[64];
+    auto [end, ec] = std::to_chars(buf, buf + sizeof buf, std::fabs(v), std::chars_format::fixed, decimals);
+    std::string s(buf, ec == std::errc() ? end : buf);
+    const size_t point = s.find('.');
+    for (long i = long(point == std::string::npos ? s.size() : point) - 3; i > 0; i -= 3)
+        s.insert(size_t(i), ",");
+    const bool zero = s.find_first_not_of("0.,") == std::string::npos;
+    return (v < 0.0 && !zero ? "-" : "") + s;
+}
+
+std::string signedGrouped(double v, int decimals)
+{
+    const std::string s = grouped(v, decimals);
+    return s[0] == '-' ? s : "+" + s;
+}
+
+std::string ratioText(const std::optional<double> &precision)
+{
+    return precision ? "1:" + grouped(std::floor(*precision), 0) : "exact";
+}
+
+std::string padRight(std::string s, size_t width)
+{
+    // Count characters, not bytes, so the degree sign does not shift the columns.
+    size_t chars = 0;
+    for (unsigned char c : s)
+        chars += (c & 0xC0) != 0x80;
+    if (chars < width)
+        s.append(width - chars, ' ');
+    return s;
+}
+
+std::string padLeft(const std::string &s, size_t width)
+{
+    return s.size() < width ? std::string(width - s.size(), ' ') + s : s;
+}
+
+struct AreaUnits {
+    const char *square;
+    const char *large;
+    double perLarge;
+};
+
+AreaUnits areaUnits(Units units)
+{
+    switch (units) {
+    case Units::Feet: return {"sq ft", "acres", 43560.0};
+    case Units::Meters: return {"sq m", "ha", 10000.0};
+    default: return {"square units", nullptr, 0.0};
+    }
+}
+
+std::string areaText(double area, Units units)
+{
+    const AreaUnits u = areaUnits(units);
+    std::string s = grouped(area, 2) + " " + u.square;
+    if (u.large)
+        s += " (" + grouped(area / u.perLarge, 4) + " " + u.large + ")";
+    return s;
+}
+
+std::string callText(const std::array<std::string, CourseTable::kColumns> &cells)
+{
+    std::string s;
+    for (const std::string &c : cells) {
+        if (c.empty())
+            continue;
+        if (!s.empty())
+            s += ' ';
+        s += c;
+    }
+    return s;
+}
+
+void writeAdjustment(std::ostream &out, const char *title, const Adjustment &a, Units units)
+{
+    out << "  " << title << ", adjusted area " << areaText(a.area, units) << "\n";
+    out << "     Row  " << padRight("North", 16) << padRight("East", 16) << padRight("Bearing", 17)
+        << padRight("Distance", 13) << "Change\n";
+    for (const AdjustedCall &c : a.calls) {
+        out << padLeft(std::to_string(c.row + 1), 8) << "  " << padRight(grouped(c.north, 3), 16)
+            << padRight(grouped(c.east, 3), 16) << padRight(c.bearing, 17) << padRight(grouped(c.distance, 3), 13)
+            << signedGrouped(c.bearingChange, 0) << "\"  " << signedGrouped(c.distanceChange, 3)
+            << (c.curve ? "  (chord)" : "") << "\n";
+    }
+}
+
+void writeText(std::ostream &out, const std::string &file, const ClosureReport &report, Units units)
+{
+    out << "Closure report for " << file << " (rows numbered from 1, as the entry grid shows them)\n";
+    if (report.lots.empty())
+        out << "\nNo lot has a course to analyse.\n";
+    int n = 0;
+    for (const LotReport &lot : report.lots) {
+        out << "\nLot " << ++n << ": rows " << lot.firstRow + 1 << " to " << lot.lastRow + 1;
+        if (lot.pobRow >= 0)
+            out << ", beginning after row " << lot.pobRow + 1;
+        if (lot.closeRow >= 0)
+            out << ", closed by row " << lot.closeRow + 1;
+        out << "\n";
+        if (lot.gap.distance == 0.0)
+            out << "  Misclosure        none: the figure closes exactly\n";
+        else
+            out << "  Misclosure        " << grouped(lot.gap.distance, 3) << ", closing bearing " << lot.gap.bearing
+                << " (north error " << signedGrouped(lot.gap.north, 3) << ", east error "
+                << signedGrouped(lot.gap.east, 3) << ")\n";
+        if (!lot.programGap.empty())
+            out << "  Plotter's gap     " << lot.programGap << "\n";
+        out << "  Perimeter         " << grouped(lot.perimeter, 3) << "\n";
+        out << "  Precision         " << ratioText(lot.precision) << "\n";
+        out << "  Commonly cited    ";
+        for (size_t i = 0; i < kPrecisionClasses.size(); ++i) {
+            const int c = kPrecisionClasses[i];
+            out << (i ? ", " : "") << "1:" << grouped(c, 0) << (!lot.precision || *lot.precision >= c ? " met" : " not met");
+        }
+        out << "\n                    (a comparison with usual ratios, not a finding of compliance with any standard)\n";
+        for (const std::string &note : lot.notes)
+            out << "  Note: " << note << "\n";
+        writeAdjustment(out, "Compass (Bowditch) rule", lot.compass, units);
+        writeAdjustment(out, "Transit rule", lot.transit, units);
+        if (!lot.suggestions.empty()) {
+            out << "  Likely bad calls, best first:\n";
+            int k = 0;
+            for (const Suggestion &s : lot.suggestions) {
+                out << "    " << ++k << ". " << kindName(s.kind) << ": ";
+                if (s.kind == BlunderKind::Omitted)
+                    out << "insert before row " << s.row + 1 << " ";
+                else
+                    out << "row " << s.row + 1 << " reads ";
+                out << callText(s.cells) << "; gap " << grouped(s.gap.distance, 3) << ", " << ratioText(s.precision)
+                    << "\n";
+            }
+        }
+    }
+}
+
+std::string jsonText(const ClosureReport &report)
+{
+    QJsonArray lots;
+    for (const LotReport &lot : report.lots) {
+        QJsonArray suggestions;
+        for (const Suggestion &s : lot.suggestions) {
+            QJsonArray cells;
+            for (const std::string &c : s.cells)
+                cells.append(qs(c));
+            suggestions.append(QJsonObject{{"row", s.row},
+                                           {"kind", qs(kindName(s.kind))},
+                                           {"cells", cells},
+                                           {"gap", gapJson(s.gap)},
+                                           {"precision", optionalJson(s.precision)}});
+        }
+        QJsonArray classes;
+        for (int c : kPrecisionClasses)
+            classes.append(QJsonObject{{"ratio", c},
+                                       {"name", qs("1:" + grouped(c, 0))},
+                                       {"met", !lot.precision || *lot.precision >= c}});
+        QJsonArray notes;
+        for (const std::string &note : lot.notes)
+            notes.append(qs(note));
+        lots.append(QJsonObject{{"first_row", lot.firstRow},
+                                {"last_row", lot.lastRow},
+                                {"pob_row", lot.pobRow >= 0 ? QJsonValue(lot.pobRow) : QJsonValue()},
+                                {"close_row", lot.closeRow >= 0 ? QJsonValue(lot.closeRow) : QJsonValue()},
+                                {"pob", QJsonObject{{"north", lot.pobNorth}, {"east", lot.pobEast}}},
+                                {"gap", gapJson(lot.gap)},
+                                {"program_gap", qs(lot.programGap)},
+                                {"perimeter", lot.perimeter},
+                                {"precision", optionalJson(lot.precision)},
+                                {"classes", classes},
+                                {"compass", adjustmentJson(lot.compass)},
+                                {"compass_area", lot.compass.area},
+                                {"transit", adjustmentJson(lot.transit)},
+                                {"transit_area", lot.transit.area},
+                                {"suggestions", suggestions},
+                                {"notes", notes}});
+    }
+    return QJsonDocument(QJsonObject{{"lots", lots}}).toJson(QJsonDocument::Indented).toStdString();
+}
+
+} // namespace
+
+std::string parseClosureArgs(const std::vector<std::string> &args, ClosureOptions &options)
+{
+    for (const std::string &a : args) {
+        if (a == "--json")
+            options.json = true;
+        else if (a.size() > 1 && a[0] == '-')
+            return "unknown option " + a;
+        else if (options.file.empty())
+            options.file = a;
+        else
+            return "only one map file can be given";
+    }
+    return options.file.empty() ? "no map file given" : "";
+}
+
+int runClosure(const ClosureOptions &options, std::ostream &out, std::ostream &err)
+{
+    RecordingPrompter prompter;
+    Engine engine(prompter);
+    if (!engine.openMapFile(options.file)) {
+        const std::vector<std::string> messages = prompter.take();
+        for (const std::string &m : messages)
+            err << m << "\n";
+        if (messages.empty())
+            err << "Cannot read the map file " << options.file << ".\n";
+        return 1;
+    }
+    prompter.take();
+    const ClosureReport report =
+        analyseClosure(engine.table(), [&engine](int lastRow) { return gapTextThrough(engine, lastRow); });
+    if (options.json)
+        out << jsonText(report);
+    else
+        writeText(out, options.file, report, engine.units());
+    return 0;
+}
+
+int runClosureCommand(const std::vector<std::string> &args, std::string &out, std::string &err)
+{
+    ClosureOptions options;
+    if (std::string problem = parseClosureArgs(args, options); !problem.empty()) {
+        err += "quilmar closure: " + problem + "\n" + usageText();
+        return 2;
+    }
+    std::ostringstream o, e;
+    const int status = runClosure(options, o, e);
+    out += o.str();
+    err += e.str();
+    return status;
+}
+
+} // namespace quilmar

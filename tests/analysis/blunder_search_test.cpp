@@ -1,0 +1,241 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <map>
+#include <numbers>
+#include <random>
+
+#include "closure_report.h"
+#include "table_builder.h"
+
+using namespace quilmar;
+using namespace quilmar::analysis;
+
+namespace {
+
+using Cells = std::array<std::string, CourseTable::kColumns>;
+
+double value(const std::string &s) { return s.empty() ? 0.0 : std::stod(s); }
+
+bool sameCall(const Cells &a, const Cells &b)
+{
+    for (int c : {ColNS, ColEW, ColLR, ColTag})
+        if (a[c - 1] != b[c - 1])
+            return false;
+    for (int c : {ColDeg, ColMin, ColSec, ColDistance, ColChord, ColRadius})
+        if (std::fabs(value(a[c - 1]) - value(b[c - 1])) > 1e-9)
+            return false;
+    return true;
+}
+
+CourseTable tableOf(const std::vector<Cells> &rows)
+{
+    CourseTable t;
+    for (size_t r = 0; r < rows.size(); ++r)
+        for (int c = 0; c < CourseTable::kColumns; ++c)
+            t.at(int(r), c + 1) = Cell(rows[r][c]);
+    t.gethighest();
+    return t;
+}
+
+std::string fixed2(double v)
+{
+    char buf[32];
+    std::snprintf(buf, sizeof buf, "%.2f", v);
+    return buf;
+}
+
+// A closed polygon of 4 to 8 sides around the point of beginning (row 0, "B"),
+// bearings to the whole second and distances to the hundredth, the last call
+// closing on the rounded others. With @p chainsCall >= 0 that call's length is a
+// whole number of hundredths of a chain, and its length in chains is returned.
+std::vector<Cells> generateDeed(std::mt19937 &rng, int chainsCall, std::string &chains)
+{
+    std::uniform_int_distribution<int> sides(4, 8);
+    std::uniform_real_distribution<double> unit(0.0, 1.0);
+    const int n = sides(rng);
+    std::vector<double> angles(n);
+    for (double &a : angles)
+        a = unit(rng) * 2.0 * std::numbers::pi;
+    std::sort(angles.begin(), angles.end());
+    std::vector<std::pair<double, double>> vertices;
+    for (double a : angles) {
+        const double r = 300.0 + 1200.0 * unit(rng);
+        vertices.push_back({r * std::sin(a), r * std::cos(a)});
+    }
+    const auto [n0, e0] = vertices[0];
+    std::vector<Cells> rows{{"", "", "", "", "", "", "", "", "", "B"}};
+    double pn = 0.0, pe = 0.0;
+    for (int i = 1; i <= n; ++i) {
+        const double tn = i < n ? vertices[i].first - n0 : 0.0, te = i < n ? vertices[i].second - e0 : 0.0;
+        const double dn = tn - pn, de = te - pe;
+        const long seconds = std::lround(std::atan2(std::fabs(de), std::fabs(dn)) * 180.0 / std::numbers::pi * 3600.0);
+        double d = std::round(std::hypot(dn, de) * 100.0) / 100.0;
+        if (i - 1 == chainsCall) {
+            const double c = std::round(d / 66.0 * 100.0) / 100.0;
+            chains = fixed2(c);
+            d = c * 66.0;
+        }
+        Cells call{dn >= 0 ? "N" : "S", std::to_string(seconds / 3600), std::to_string(seconds / 60 % 60),
+                   std::to_string(seconds % 60), de >= 0 ? "E" : "W", fixed2(d), "", "", "", ""};
+        const double a = seconds / 3600.0 * std::numbers::pi / 180.0;
+        pn += (dn >= 0 ? 1 : -1) * d * std::cos(a);
+        pe += (de >= 0 ? 1 : -1) * d * std::sin(a);
+        rows.push_back(call);
+    }
+    return rows;
+}
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+// Plants one mistake of @p kind in call @p row; false when the call cannot take it.
+bool plant(BlunderKind kind, std::vector<Cells> &rows, int row, std::mt19937 &rng, const std::string &chains)
+{
+    Cells &c = rows[row];
+    std::string &d = c[ColDistance - 1];
+    std::vector<size_t> digits;
+    for (size_t i = 0; i < d.size(); ++i)
+        if (isDigit(d[i]))
+            digits.push_back(i);
+    auto pick = [&](size_t n) { return std::uniform_int_distribution<size_t>(0, n - 1)(rng); };
+    switch (kind) {
+    case BlunderKind::NsFlip: c[0] = c[0] == "N" ? "S" : "N"; return true;
+    case BlunderKind::EwFlip: c[4] = c[4] == "E" ? "W" : "E"; return true;
+    case BlunderKind::DegMinSwap:
+        if (value(c[1]) >= 60 || c[1] == c[2])
+            return false;
+        std::swap(c[1], c[2]);
+        return true;
+    case BlunderKind::Transpose: {
+        const size_t i = pick(d.size() - 1);
+        if (!isDigit(d[i]) || !isDigit(d[i + 1]) || d[i] == d[i + 1] || (i == 0 && d[1] == '0'))
+            return false;
+        std::swap(d[i], d[i + 1]);
+        return true;
+    }
+    case BlunderKind::DropDigit: {
+        std::string s = d;
+        s.erase(digits[pick(digits.size())], 1);
+        if (s[0] == '.' || (s[0] == '0' && isDigit(s[1])))
+            return false;
+        d = s;
+        return true;
+    }
+    case BlunderKind::DoubleDigit: {
+        const size_t i = digits[pick(digits.size())];
+        d.insert(i, 1, d[i]);
+        return true;
+    }
+    case BlunderKind::TimesTen: {
+        // The point moves one place; every digit stays.
+        char buf[32];
+        if (pick(2))
+            std::snprintf(buf, sizeof buf, "%.1f", value(d) * 10.0);
+        else
+            std::snprintf(buf, sizeof buf, "%.3f", value(d) / 10.0);
+        d = buf;
+        return true;
+    }
+    case BlunderKind::ChainsFeet: d = chains; return true;
+    case BlunderKind::Omitted: rows.erase(rows.begin() + row); return true;
+    }
+    return false;
+}
+
+bool found(const LotReport &lot, BlunderKind kind, int row, const Cells &original)
+{
+    for (size_t i = 0; i < lot.suggestions.size() && i < 3; ++i) {
+        const Suggestion &s = lot.suggestions[i];
+        if (kind == BlunderKind::Omitted ? s.kind == BlunderKind::Omitted &&
+                                               std::fabs(value(s.cells[ColDistance - 1]) - value(original[5])) < 0.05
+                                         : s.row == row && sameCall(s.cells, original))
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+TEST(BlunderSearch, FindsThePlantedMistakeInItsTopThree)
+{
+    // Generated deeds with one mistake each, of every kind in turn; only mistakes
+    // that make a blunder (worse than 1:5,000) count, since a slip that closes
+    // within rounding cannot be told from the deed's own rounding.
+    const BlunderKind kinds[] = {BlunderKind::NsFlip,    BlunderKind::EwFlip,      BlunderKind::DegMinSwap,
+                                 BlunderKind::Transpose, BlunderKind::DropDigit,   BlunderKind::DoubleDigit,
+                                 BlunderKind::TimesTen,  BlunderKind::ChainsFeet,  BlunderKind::Omitted};
+    std::mt19937 rng(20261122);
+    std::map<BlunderKind, std::pair<int, int>> tally; // kind -> (found, tried)
+    int tried = 0, hits = 0;
+    for (int attempt = 0; tried < 450 && attempt < 5000; ++attempt) {
+        const BlunderKind kind = kinds[attempt % std::size(kinds)];
+        std::string chains;
+        const int callCount = 4;
+        const int call = std::uniform_int_distribution<int>(0, callCount - 1)(rng);
+        std::vector<Cells> rows = generateDeed(rng, kind == BlunderKind::ChainsFeet ? call : -1, chains);
+        const Cells original = rows[call + 1];
+        if (!plant(kind, rows, call + 1, rng, chains))
+            continue;
+        const CourseTable table = tableOf(rows);
+        const ClosureReport report = analyseClosure(table);
+        ASSERT_EQ(report.lots.size(), 1u);
+        const LotReport &lot = report.lots[0];
+        if (lot.precision && *lot.precision >= 5000.0)
+            continue;
+        ++tried;
+        ++tally[kind].second;
+        if (found(lot, kind, call + 1, original)) {
+            ++hits;
+            ++tally[kind].first;
+        }
+        // What a suggestion promises is what applying it gives.
+        if (!lot.suggestions.empty()) {
+            CourseTable fixed = table;
+            applySuggestion(fixed, lot.suggestions[0]);
+            const LotReport after = analyseClosure(fixed).lots.at(0);
+            EXPECT_NEAR(after.gap.north, lot.suggestions[0].gap.north, 1e-6);
+            EXPECT_NEAR(after.gap.east, lot.suggestions[0].gap.east, 1e-6);
+        }
+    }
+    for (const auto &[kind, t] : tally)
+        std::printf("%-13s %d of %d\n", std::string(kindName(kind)).c_str(), t.first, t.second);
+    ASSERT_GE(tried, 400);
+    EXPECT_EQ(tally.size(), std::size(kinds));
+    EXPECT_GE(double(hits) / tried, 0.95) << hits << " of " << tried;
+}
+
+TEST(BlunderSearch, CoursesTurnedFromTheWrongCallTurnBackWithIt)
+{
+    // East typed as west on row 1; row 2 turns 90 degrees right from it, so it
+    // runs north instead of south, and only flipping row 1 closes the square.
+    const CourseTable table = test::makeTable({{"N", "0", "0", "0", "E", "100", "", "", "", ""},
+                                               {"N", "90", "0", "0", "W", "100", "", "", "", ""},
+                                               {"+", "90", "0", "0", "", "100", "", "", "", ""},
+                                               {"N", "90", "0", "0", "W", "100", "", "", "", ""}});
+    const LotReport lot = analyseClosure(table).lots.at(0);
+    EXPECT_NEAR(lot.gap.distance, std::hypot(200.0, 200.0), 1e-3);
+    ASSERT_FALSE(lot.suggestions.empty());
+    const Suggestion &best = lot.suggestions[0];
+    EXPECT_EQ(best.kind, BlunderKind::EwFlip);
+    EXPECT_EQ(best.row, 1);
+    EXPECT_EQ(best.cells[ColEW - 1], "E");
+    EXPECT_LT(best.gap.distance, 1e-3);
+}
+
+TEST(BlunderSearch, OmittedCallIsTheReversedGapAndClosesWhenInserted)
+{
+    // A square missing its west side; nothing else closes it as well.
+    CourseTable table = test::makeTable({{"", "", "", "", "", "", "", "", "", "B"},
+                                         {"N", "0", "0", "0", "E", "250", "", "", "", ""},
+                                         {"N", "90", "0", "0", "E", "250", "", "", "", ""},
+                                         {"S", "0", "0", "0", "E", "250", "", "", "", ""}});
+    const LotReport lot = analyseClosure(table).lots.at(0);
+    ASSERT_FALSE(lot.suggestions.empty());
+    const Suggestion &best = lot.suggestions[0];
+    EXPECT_EQ(best.kind, BlunderKind::Omitted);
+    EXPECT_EQ(best.row, 4);
+    EXPECT_EQ(best.cells, (Cells{"N", "90", "0", "0", "W", "250", "", "", "", ""}));
+    applySuggestion(table, best);
+    EXPECT_EQ(table.at(4, ColEW).text(), "W");
+    EXPECT_LT(analyseClosure(table).lots.at(0).gap.distance, 1e-3);
+}
