@@ -105,7 +105,8 @@ void lengthCandidates(const std::string &t, int column, std::vector<Candidate> &
     add(BlunderKind::ChainsFeet, t.substr(0, b) + trimmedFixed(old * 66.0, 4) + t.substr(e));
 }
 
-std::vector<Candidate> candidatesFor(const RowCells &cells, const CourseReading &course)
+// @p lengths false leaves out the changes of the distance.
+std::vector<Candidate> candidatesFor(const RowCells &cells, const CourseReading &course, bool lengths)
 {
     std::vector<Candidate> out;
     const std::string ns = trimmed(cellText(cells[ColNS - 1]));
@@ -122,6 +123,8 @@ std::vector<Candidate> candidatesFor(const RowCells &cells, const CourseReading 
         if (dv != mv && mv <= 90.0 && dv < 60.0)
             out.push_back({BlunderKind::DegMinSwap, {ColDeg, min}, Change{ColMin, deg}});
     }
+    if (!lengths)
+        return out;
     int column = ColDistance;
     if (course.curve() && cells[ColDistance - 1].isEmpty() && !cells[ColChord - 1].isEmpty())
         column = ColChord;
@@ -199,8 +202,15 @@ std::vector<Suggestion> searchBlunders(const CourseTable &table, const LotFigure
         const CourseReading &course = f.reading.course;
         const RowCells cells = rowCells(table, f.row);
         const double oldArc = std::fabs(course.arc != 0.0 ? course.arc : course.length);
+        // A call whose direction its length does not change (all but a tangent
+        // curve) can only move the end along that direction: when the gap lies
+        // more than 30 degrees off it, no length of this call halves the gap.
+        const bool keepsDirection = !course.curve() || double(course.runningAfter) == course.direction;
+        const double a = course.direction * kPi / 180.0;
+        const double across = std::fabs(gap.n * std::cos(a) + gap.e * std::sin(a));
+        const bool lengths = !keepsDirection || across <= gapLength / 2.0;
         std::unordered_set<std::string> seen;
-        for (Candidate &c : candidatesFor(cells, course)) {
+        for (Candidate &c : candidatesFor(cells, course, lengths)) {
             std::string key = std::to_string(c.first.column) + '|' + c.first.text;
             if (!seen.insert(std::move(key)).second)
                 continue;
