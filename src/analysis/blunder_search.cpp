@@ -54,6 +54,32 @@ bool numberSpan(const std::string &t, size_t &begin, size_t &end)
     return digits;
 }
 
+// Decimal places written in the leading number of @p t; with @p significant,
+// trailing zeros do not count.
+int decimalPlaces(const std::string &t, bool significant)
+{
+    size_t b = 0, e = 0;
+    if (!numberSpan(t, b, e))
+        return 0;
+    const size_t point = t.find('.', b);
+    if (point == std::string::npos || point >= e)
+        return 0;
+    size_t last = e;
+    if (significant)
+        while (last > point + 1 && t[last - 1] == '0')
+            --last;
+    return int(last - point - 1);
+}
+
+// The cell that holds a call's length: the distance, or a curve's chord when
+// only the chord is given.
+int lengthColumn(const RowCells &cells, const CourseReading &course)
+{
+    if (course.curve() && cells[ColDistance - 1].isEmpty() && !cells[ColChord - 1].isEmpty())
+        return ColChord;
+    return ColDistance;
+}
+
 // Moves the decimal point one place right (@p right) or left.
 std::string shiftPoint(const std::string &t, size_t begin, size_t end, bool right)
 {
@@ -77,17 +103,21 @@ std::string shiftPoint(const std::string &t, size_t begin, size_t end, bool righ
     return t.substr(0, begin) + whole + (frac.empty() ? "" : "." + frac) + t.substr(end);
 }
 
-void lengthCandidates(const std::string &t, int column, std::vector<Candidate> &out)
+void lengthCandidates(const std::string &t, int column, int maxDecimals, std::vector<Candidate> &out)
 {
     size_t b = 0, e = 0;
-    if (!numberSpan(t, b, e))
+    // Past fifteen digits no distance was measured; nor is it worth the time.
+    if (!numberSpan(t, b, e) || e - b > 16)
         return;
     const double old = textValue(t);
     auto add = [&](BlunderKind kind, std::string text) {
-        if (textValue(text) != old)
+        if (textValue(text) != old && decimalPlaces(text, true) <= maxDecimals)
             out.push_back({kind, {column, std::move(text)}, {}});
     };
     for (size_t k = b; k + 1 < e; ++k) {
+        // A transposition never makes a leading zero.
+        if (k == b && t[k + 1] == '0')
+            continue;
         if (isDigit(t[k]) && isDigit(t[k + 1]) && t[k] != t[k + 1]) {
             std::string s = t;
             std::swap(s[k], s[k + 1]);
@@ -106,7 +136,8 @@ void lengthCandidates(const std::string &t, int column, std::vector<Candidate> &
 }
 
 // @p lengths false leaves out the changes of the distance.
-std::vector<Candidate> candidatesFor(const RowCells &cells, const CourseReading &course, bool lengths)
+std::vector<Candidate> candidatesFor(const RowCells &cells, const CourseReading &course, bool lengths,
+                                     int maxDecimals)
 {
     std::vector<Candidate> out;
     const std::string ns = trimmed(cellText(cells[ColNS - 1]));
@@ -125,17 +156,15 @@ std::vector<Candidate> candidatesFor(const RowCells &cells, const CourseReading 
     }
     if (!lengths)
         return out;
-    int column = ColDistance;
-    if (course.curve() && cells[ColDistance - 1].isEmpty() && !cells[ColChord - 1].isEmpty())
-        column = ColChord;
-    const std::string length = cellText(cells[column - 1]);
-    lengthCandidates(length, column, out);
+    const int column = lengthColumn(cells, course);
+    lengthCandidates(cellText(cells[column - 1]), column, maxDecimals, out);
     return out;
 }
 
 struct Ranked {
     Suggestion suggestion;
-    double score = 0.0;
+    double score = 0.0; ///< the gap left, never less than the rounding bound
+    double left = 0.0;  ///< the gap left
 };
 
 std::optional<double> precisionOf(double perimeter, double gap)
@@ -157,12 +186,40 @@ Gap makeGap(double north, double east)
     return g;
 }
 
+double roundingBound(const CourseTable &table, const LotFigure &lot)
+{
+    double bound = 0.0;
+    for (const FigureRow &f : lot.rows) {
+        if (!f.moves())
+            continue;
+        const RowCells cells = rowCells(table, f.row);
+        bound += 0.5 * std::pow(10.0, -decimalPlaces(cellText(cells[lengthColumn(cells, f.reading.course) - 1]), false));
+        double halfUnit = 0.0; // degrees
+        if (!trimmed(cellText(cells[ColSec - 1])).empty())
+            halfUnit = 0.5 * std::pow(10.0, -decimalPlaces(cellText(cells[ColSec - 1]), false)) / 3600.0;
+        else if (!trimmed(cellText(cells[ColMin - 1])).empty())
+            halfUnit = 0.5 / 60.0;
+        else if (!trimmed(cellText(cells[ColDeg - 1])).empty())
+            halfUnit = 0.5;
+        bound += std::fabs(f.reading.course.length) * halfUnit * kPi / 180.0;
+    }
+    return bound;
+}
+
 std::vector<Suggestion> searchBlunders(const CourseTable &table, const LotFigure &lot, RowReader &reader)
 {
     const Vec gap{lot.gapNorth, lot.gapEast};
     const double gapLength = std::hypot(gap.n, gap.e);
-    if (gapLength == 0.0 || lot.perimeter / gapLength >= kSearchBelowPrecision)
+    const double rounding = roundingBound(table, lot);
+    if (gapLength <= rounding)
         return {};
+    int maxDecimals = 0;
+    for (const FigureRow &f : lot.rows) {
+        if (f.moves()) {
+            const RowCells cells = rowCells(table, f.row);
+            maxDecimals = std::max(maxDecimals, decimalPlaces(cellText(cells[lengthColumn(cells, f.reading.course) - 1]), false));
+        }
+    }
 
     // What turns with each row: the calls after it that follow its running direction.
     const size_t count = lot.rows.size();
@@ -181,7 +238,7 @@ std::vector<Suggestion> searchBlunders(const CourseTable &table, const LotFigure
 
     std::vector<Ranked> ranked;
     auto consider = [&](BlunderKind kind, int row, std::array<std::string, CourseTable::kColumns> cells, Vec newGap,
-                        double perimeter, double floor) {
+                        double perimeter) {
         const double left = std::hypot(newGap.n, newGap.e);
         if (!(left <= gapLength / 2.0))
             return;
@@ -191,7 +248,8 @@ std::vector<Suggestion> searchBlunders(const CourseTable &table, const LotFigure
         r.suggestion.cells = std::move(cells);
         r.suggestion.gap = makeGap(newGap.n, newGap.e);
         r.suggestion.precision = precisionOf(perimeter, left);
-        r.score = std::max(left, floor);
+        r.score = std::max(left, rounding);
+        r.left = left;
         ranked.push_back(std::move(r));
     };
 
@@ -210,7 +268,7 @@ std::vector<Suggestion> searchBlunders(const CourseTable &table, const LotFigure
         const double across = std::fabs(gap.n * std::cos(a) + gap.e * std::sin(a));
         const bool lengths = !keepsDirection || across <= gapLength / 2.0;
         std::unordered_set<std::string> seen;
-        for (Candidate &c : candidatesFor(cells, course, lengths)) {
+        for (Candidate &c : candidatesFor(cells, course, lengths, maxDecimals)) {
             std::string key = std::to_string(c.first.column) + '|' + c.first.text;
             if (!seen.insert(std::move(key)).second)
                 continue;
@@ -243,7 +301,7 @@ std::vector<Suggestion> searchBlunders(const CourseTable &table, const LotFigure
             texts[c.first.column - 1] = c.first.text;
             if (c.second)
                 texts[c.second->column - 1] = c.second->text;
-            consider(c.kind, f.row, std::move(texts), newGap, lot.perimeter - oldArc + newArc, 0.0);
+            consider(c.kind, f.row, std::move(texts), newGap, lot.perimeter - oldArc + newArc);
         }
     }
 
@@ -285,14 +343,18 @@ std::vector<Suggestion> searchBlunders(const CourseTable &table, const LotFigure
                 cells[k] = Cell(texts[k]);
             const CourseReading inserted = reader.read(cells, runningBefore);
             const Vec newGap{gap.n + inserted.north(), gap.e + inserted.east()};
-            consider(BlunderKind::Omitted, *at, std::move(texts), newGap, lot.perimeter + std::fabs(inserted.arc),
-                     lot.perimeter / kSearchBelowPrecision);
+            consider(BlunderKind::Omitted, *at, std::move(texts), newGap, lot.perimeter + std::fabs(inserted.arc));
         }
     }
 
     std::stable_sort(ranked.begin(), ranked.end(), [](const Ranked &a, const Ranked &b) {
         if (a.score != b.score)
             return a.score < b.score;
+        const bool aOmitted = a.suggestion.kind == BlunderKind::Omitted;
+        if (aOmitted != (b.suggestion.kind == BlunderKind::Omitted))
+            return !aOmitted;
+        if (a.left != b.left)
+            return a.left < b.left;
         if (a.suggestion.kind != b.suggestion.kind)
             return a.suggestion.kind < b.suggestion.kind;
         return a.suggestion.row < b.suggestion.row;

@@ -16,10 +16,18 @@ namespace quilmar::analysis {
 /// The lot's gap as the report shows it, from the end less the beginning.
 Gap makeGap(double north, double east);
 
-/// Ranked suggestions for @p lot of @p table (empty when it closes better than
-/// kSearchBelowPrecision). The ranking is by the gap left; an omitted call
-/// always closes, so it ranks as if it left a gap of perimeter / 20,000 at
-/// least: a one-character slip that closes as well is the likelier reading.
+/// The most the lot's gap can be from the rounding of its calls alone: for each
+/// call, half a unit in the last decimal place written of its length, plus its
+/// length times half a unit of the last field of its bearing given (seconds,
+/// else minutes, else degrees). Ground units.
+double roundingBound(const CourseTable &table, const LotFigure &lot);
+
+/// Ranked suggestions for @p lot of @p table; empty when its gap is within
+/// roundingBound. The ranking is by the gap left, and a gap within the rounding
+/// bound counts as closed. An omitted call always closes, so it ranks as if it
+/// left the rounding bound: a one-character slip that closes as well is the
+/// likelier reading. A changed distance never gets more decimal places than the
+/// lot's distances are written with.
 std::vector<Suggestion> searchBlunders(const CourseTable &table, const LotFigure &lot, RowReader &reader);
 
 } // namespace quilmar::analysis

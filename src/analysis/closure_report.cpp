@@ -32,10 +32,9 @@ void addNotes(const LotFigure &lot, LotReport &report)
     for (const FigureRow &f : lot.rows) {
         const CourseReading &c = f.reading.course;
         if (c.curve() && std::fabs(c.length) > 2.0 * std::fabs(c.radius))
-            report.notes.push_back("row " + std::to_string(f.row) + ": the radius is shorter than half the chord; "
-                                   "the plotter stops at this curve");
+            report.notes.push_back({f.row, "the radius is shorter than half the chord; the plotter stops at this curve"});
         if (c.curve() && c.length == 0.0)
-            report.notes.push_back("row " + std::to_string(f.row) + ": the curve has no chord and moves nothing");
+            report.notes.push_back({f.row, "the curve has no chord and moves nothing"});
     }
 }
 

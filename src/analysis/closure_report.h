@@ -83,6 +83,12 @@ struct Suggestion {
     std::optional<double> precision;  ///< N of 1:N after the change; empty when it closes exactly
 };
 
+/// A row the plotter would stumble on, e.g. a curve whose radius cannot span its chord.
+struct Note {
+    int row = 0;
+    std::string text; ///< English, without the row number
+};
+
 struct LotReport {
     int firstRow = 0, lastRow = 0; ///< first and last row with any entry in the lot
     int pobRow = -1;               ///< the "B" row, or -1
@@ -94,7 +100,7 @@ struct LotReport {
     std::string programGap;          ///< the plotter's own "Gap = ..." text for the lot
     Adjustment compass, transit;
     std::vector<Suggestion> suggestions; ///< best first, at most kMaxSuggestions
-    std::vector<std::string> notes;      ///< what the plotter would stumble on, e.g. a curve too short for its chord
+    std::vector<Note> notes;             ///< what the plotter would stumble on
 };
 
 struct ClosureReport {
@@ -105,9 +111,9 @@ struct ClosureReport {
 /// that a user can compare; meeting one says nothing about any legal standard.
 inline constexpr std::array<int, 4> kPrecisionClasses{5000, 10000, 15000, 20000};
 
-/// Suggestions are sought for a lot that closes worse than this class, and only
-/// changes that at least halve its gap are listed.
-inline constexpr int kSearchBelowPrecision = 20000;
+/// Suggestions are sought for a lot whose gap is more than the rounding of its
+/// calls can explain (half a unit in the last place written of every distance
+/// and bearing, added up); only changes that at least halve the gap are listed.
 inline constexpr int kMaxSuggestions = 5;
 
 /// The plotter's gap text for the deed cut after @p lastRow (its "N" tag

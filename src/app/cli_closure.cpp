@@ -168,8 +168,8 @@ void writeText(std::ostream &out, const std::string &file, const ClosureReport &
             out << (i ? ", " : "") << "1:" << grouped(c, 0) << (!lot.precision || *lot.precision >= c ? " met" : " not met");
         }
         out << "\n                    (a comparison with usual ratios, not a finding of compliance with any standard)\n";
-        for (const std::string &note : lot.notes)
-            out << "  Note: " << note << "\n";
+        for (const Note &note : lot.notes)
+            out << "  Note: row " << note.row + 1 << ": " << note.text << "\n";
         writeAdjustment(out, "Compass (Bowditch) rule", lot.compass, units);
         writeAdjustment(out, "Transit rule", lot.transit, units);
         if (!lot.suggestions.empty()) {
@@ -209,8 +209,8 @@ std::string jsonText(const ClosureReport &report)
                                        {"name", qs("1:" + grouped(c, 0))},
                                        {"met", !lot.precision || *lot.precision >= c}});
         QJsonArray notes;
-        for (const std::string &note : lot.notes)
-            notes.append(qs(note));
+        for (const Note &note : lot.notes)
+            notes.append(QJsonObject{{"row", note.row}, {"text", qs(note.text)}});
         lots.append(QJsonObject{{"first_row", lot.firstRow},
                                 {"last_row", lot.lastRow},
                                 {"pob_row", lot.pobRow >= 0 ? QJsonValue(lot.pobRow) : QJsonValue()},
