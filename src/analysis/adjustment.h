@@ -1,6 +1,7 @@
 #pragma once
 // Spreading a figure's misclosure over its measured calls. The compass
-// (Bowditch) rule corrects each call in proportion to its length; the transit
+// (Bowditch) rule corrects each call in proportion to its length (a curve's
+// chord, the line the figure runs along); the transit
 // rule corrects north parts in proportion to each call's north part and east
 // parts in proportion to its east part. A curve is adjusted through its chord
 // and keeps its radius; the adjusted area adds or takes away each curve's

@@ -103,7 +103,7 @@ std::string shiftPoint(const std::string &t, size_t begin, size_t end, bool righ
     return t.substr(0, begin) + whole + (frac.empty() ? "" : "." + frac) + t.substr(end);
 }
 
-void lengthCandidates(const std::string &t, int column, int maxDecimals, std::vector<Candidate> &out)
+void lengthCandidates(const std::string &t, int column, int maxDecimals, double chainLength, std::vector<Candidate> &out)
 {
     size_t b = 0, e = 0;
     // Past fifteen digits no distance was measured; nor is it worth the time.
@@ -132,12 +132,13 @@ void lengthCandidates(const std::string &t, int column, int maxDecimals, std::ve
             add(BlunderKind::DoubleDigit, t.substr(0, k) + t.substr(k + 1));
     add(BlunderKind::TimesTen, shiftPoint(t, b, e, false));
     add(BlunderKind::TimesTen, shiftPoint(t, b, e, true));
-    add(BlunderKind::ChainsFeet, t.substr(0, b) + trimmedFixed(old * 66.0, 4) + t.substr(e));
+    if (chainLength > 0.0)
+        add(BlunderKind::ChainsFeet, t.substr(0, b) + trimmedFixed(old * chainLength, maxDecimals) + t.substr(e));
 }
 
 // @p lengths false leaves out the changes of the distance.
 std::vector<Candidate> candidatesFor(const RowCells &cells, const CourseReading &course, bool lengths,
-                                     int maxDecimals)
+                                     int maxDecimals, double chainLength)
 {
     std::vector<Candidate> out;
     const std::string ns = trimmed(cellText(cells[ColNS - 1]));
@@ -157,7 +158,7 @@ std::vector<Candidate> candidatesFor(const RowCells &cells, const CourseReading 
     if (!lengths)
         return out;
     const int column = lengthColumn(cells, course);
-    lengthCandidates(cellText(cells[column - 1]), column, maxDecimals, out);
+    lengthCandidates(cellText(cells[column - 1]), column, maxDecimals, chainLength, out);
     return out;
 }
 
@@ -206,7 +207,8 @@ double roundingBound(const CourseTable &table, const LotFigure &lot)
     return bound;
 }
 
-std::vector<Suggestion> searchBlunders(const CourseTable &table, const LotFigure &lot, RowReader &reader)
+std::vector<Suggestion> searchBlunders(const CourseTable &table, const LotFigure &lot, RowReader &reader,
+                                       double chainLength)
 {
     const Vec gap{lot.gapNorth, lot.gapEast};
     const double gapLength = std::hypot(gap.n, gap.e);
@@ -268,7 +270,7 @@ std::vector<Suggestion> searchBlunders(const CourseTable &table, const LotFigure
         const double across = std::fabs(gap.n * std::cos(a) + gap.e * std::sin(a));
         const bool lengths = !keepsDirection || across <= gapLength / 2.0;
         std::unordered_set<std::string> seen;
-        for (Candidate &c : candidatesFor(cells, course, lengths, maxDecimals)) {
+        for (Candidate &c : candidatesFor(cells, course, lengths, maxDecimals, chainLength)) {
             std::string key = std::to_string(c.first.column) + '|' + c.first.text;
             if (!seen.insert(std::move(key)).second)
                 continue;

@@ -40,7 +40,7 @@ void addNotes(const LotFigure &lot, LotReport &report)
 
 } // namespace
 
-ClosureReport analyseClosure(const CourseTable &table, const GapTextFn &gapText)
+ClosureReport analyseClosure(const CourseTable &table, const GapTextFn &gapText, const ClosureSettings &settings)
 {
     RowReader reader;
     const std::vector<RowReading> rows = readRows(table, reader);
@@ -61,7 +61,7 @@ ClosureReport analyseClosure(const CourseTable &table, const GapTextFn &gapText)
             r.programGap = gapText(lot.lotEnd);
         r.compass = adjust(lot, AdjustmentRule::Compass);
         r.transit = adjust(lot, AdjustmentRule::Transit);
-        r.suggestions = searchBlunders(table, lot, reader);
+        r.suggestions = searchBlunders(table, lot, reader, settings.chainLength);
         addNotes(lot, r);
         report.lots.push_back(std::move(r));
     }

@@ -67,7 +67,7 @@ enum class BlunderKind {
     DropDigit,   ///< a digit of the distance left out (the correction puts one in)
     DoubleDigit, ///< a digit of the distance typed twice (the correction takes one out)
     TimesTen,    ///< the distance ten times too large or too small
-    ChainsFeet,  ///< a distance in chains written as feet (the correction multiplies by 66)
+    ChainsFeet,  ///< a distance in chains written as feet (or metres): the correction multiplies by a chain
     Omitted,     ///< a whole call left out: the reversed gap, inserted before `row`
 };
 
@@ -120,9 +120,17 @@ inline constexpr int kMaxSuggestions = 5;
 /// ignored), as Calculate Gap shows it; supplied by whoever holds the program state.
 using GapTextFn = std::function<std::string(int lastRow)>;
 
+/// What the analysis cannot know from the table alone.
+struct ClosureSettings {
+    /// Ground units in a chain, for the reading "chains written as feet": 66 in
+    /// a deed in feet, 20.1168 in one in metres; 0 leaves that reading out.
+    double chainLength = 66.0;
+};
+
 /// Analyses every lot of @p table. Bad cells read as the plotter reads them
 /// (leading-number rule); a lot with no course that moves is left out.
-ClosureReport analyseClosure(const CourseTable &table, const GapTextFn &gapText = {});
+ClosureReport analyseClosure(const CourseTable &table, const GapTextFn &gapText = {},
+                             const ClosureSettings &settings = {});
 
 /// Makes the change @p s suggests: replaces the row's cells, or for Omitted
 /// inserts the call before its row (rows below move down one; the table's last

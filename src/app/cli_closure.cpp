@@ -261,8 +261,11 @@ int runClosure(const ClosureOptions &options, std::ostream &out, std::ostream &e
         return 1;
     }
     prompter.take();
-    const ClosureReport report =
-        analyseClosure(engine.table(), [&engine](int lastRow) { return gapTextThrough(engine, lastRow); });
+    ClosureSettings settings;
+    if (engine.units() == Units::Meters)
+        settings.chainLength = 20.1168;
+    const ClosureReport report = analyseClosure(
+        engine.table(), [&engine](int lastRow) { return gapTextThrough(engine, lastRow); }, settings);
     if (options.json)
         out << jsonText(report);
     else
