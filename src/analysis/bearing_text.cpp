@@ -53,7 +53,12 @@ void normalise(Quadrant &q, long deg, long min, double sec)
     }
 }
 
-std::string two(long v) { return (v < 10 ? "0" : "") + std::to_string(v); }
+std::string two(long v)
+{
+    std::string s(v < 10 ? 1 : 0, '0');
+    s += std::to_string(v);
+    return s;
+}
 
 } // namespace
 

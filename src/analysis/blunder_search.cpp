@@ -6,22 +6,12 @@
 #include <unordered_set>
 
 #include "bearing_text.h"
+#include "misreadings.h"
 #include "vb_math.h"
 
 namespace quilmar::analysis {
 
 namespace {
-
-struct Change {
-    int column = 0; ///< 1 to 10
-    std::string text;
-};
-
-struct Candidate {
-    BlunderKind kind;
-    Change first;
-    std::optional<Change> second;
-};
 
 struct Vec {
     double n = 0.0, e = 0.0;
@@ -31,135 +21,6 @@ Vec rotateClockwise(Vec v, double degrees)
 {
     const double a = degrees * kPi / 180.0;
     return {v.n * std::cos(a) - v.e * std::sin(a), v.e * std::cos(a) + v.n * std::sin(a)};
-}
-
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
-
-// The digits of a cell's leading number: [begin, end) after blanks and sign.
-bool numberSpan(const std::string &t, size_t &begin, size_t &end)
-{
-    size_t i = t.find_first_not_of(' ');
-    if (i == std::string::npos)
-        return false;
-    if (t[i] == '+' || t[i] == '-')
-        ++i;
-    begin = i;
-    bool digits = false, point = false;
-    while (i < t.size() && (isDigit(t[i]) || (t[i] == '.' && !point))) {
-        point = point || t[i] == '.';
-        digits = digits || isDigit(t[i]);
-        ++i;
-    }
-    end = i;
-    return digits;
-}
-
-// Decimal places written in the leading number of @p t; with @p significant,
-// trailing zeros do not count.
-int decimalPlaces(const std::string &t, bool significant)
-{
-    size_t b = 0, e = 0;
-    if (!numberSpan(t, b, e))
-        return 0;
-    const size_t point = t.find('.', b);
-    if (point == std::string::npos || point >= e)
-        return 0;
-    size_t last = e;
-    if (significant)
-        while (last > point + 1 && t[last - 1] == '0')
-            --last;
-    return int(last - point - 1);
-}
-
-// The cell that holds a call's length: the distance, or a curve's chord when
-// only the chord is given.
-int lengthColumn(const RowCells &cells, const CourseReading &course)
-{
-    if (course.curve() && cells[ColDistance - 1].isEmpty() && !cells[ColChord - 1].isEmpty())
-        return ColChord;
-    return ColDistance;
-}
-
-// Moves the decimal point one place right (@p right) or left.
-std::string shiftPoint(const std::string &t, size_t begin, size_t end, bool right)
-{
-    std::string num = t.substr(begin, end - begin);
-    size_t p = num.find('.');
-    std::string whole = p == std::string::npos ? num : num.substr(0, p);
-    std::string frac = p == std::string::npos ? "" : num.substr(p + 1);
-    if (right) {
-        whole += frac.empty() ? '0' : frac[0];
-        if (!frac.empty())
-            frac.erase(0, 1);
-    } else {
-        frac.insert(frac.begin(), whole.empty() ? '0' : whole.back());
-        if (!whole.empty())
-            whole.pop_back();
-    }
-    while (whole.size() > 1 && whole[0] == '0')
-        whole.erase(0, 1);
-    if (whole.empty())
-        whole = "0";
-    return t.substr(0, begin) + whole + (frac.empty() ? "" : "." + frac) + t.substr(end);
-}
-
-void lengthCandidates(const std::string &t, int column, int maxDecimals, double chainLength, std::vector<Candidate> &out)
-{
-    size_t b = 0, e = 0;
-    // Past fifteen digits no distance was measured; nor is it worth the time.
-    if (!numberSpan(t, b, e) || e - b > 16)
-        return;
-    const double old = textValue(t);
-    auto add = [&](BlunderKind kind, std::string text) {
-        if (textValue(text) != old && decimalPlaces(text, true) <= maxDecimals)
-            out.push_back({kind, {column, std::move(text)}, {}});
-    };
-    for (size_t k = b; k + 1 < e; ++k) {
-        // A transposition never makes a leading zero.
-        if (k == b && t[k + 1] == '0')
-            continue;
-        if (isDigit(t[k]) && isDigit(t[k + 1]) && t[k] != t[k + 1]) {
-            std::string s = t;
-            std::swap(s[k], s[k + 1]);
-            add(BlunderKind::Transpose, std::move(s));
-        }
-    }
-    for (size_t k = b; k <= e; ++k)
-        for (char d = '0'; d <= '9'; ++d)
-            add(BlunderKind::DropDigit, t.substr(0, k) + d + t.substr(k));
-    for (size_t k = b; k + 1 < e; ++k)
-        if (isDigit(t[k]) && t[k] == t[k + 1])
-            add(BlunderKind::DoubleDigit, t.substr(0, k) + t.substr(k + 1));
-    add(BlunderKind::TimesTen, shiftPoint(t, b, e, false));
-    add(BlunderKind::TimesTen, shiftPoint(t, b, e, true));
-    if (chainLength > 0.0)
-        add(BlunderKind::ChainsFeet, t.substr(0, b) + trimmedFixed(old * chainLength, maxDecimals) + t.substr(e));
-}
-
-// @p lengths false leaves out the changes of the distance.
-std::vector<Candidate> candidatesFor(const RowCells &cells, const CourseReading &course, bool lengths,
-                                     int maxDecimals, double chainLength)
-{
-    std::vector<Candidate> out;
-    const std::string ns = trimmed(cellText(cells[ColNS - 1]));
-    const std::string ew = trimmed(cellText(cells[ColEW - 1]));
-    if (ns == "N" || ns == "S")
-        out.push_back({BlunderKind::NsFlip, {ColNS, ns == "N" ? "S" : "N"}, {}});
-    if (ns == "E" || ns == "W")
-        out.push_back({BlunderKind::EwFlip, {ColNS, ns == "E" ? "W" : "E"}, {}});
-    else if (ew == "E" || ew == "W")
-        out.push_back({BlunderKind::EwFlip, {ColEW, ew == "E" ? "W" : "E"}, {}});
-    const std::string deg = cellText(cells[ColDeg - 1]), min = cellText(cells[ColMin - 1]);
-    if (!ns.empty() && ns != "E" && ns != "W" && !trimmed(deg).empty() && !trimmed(min).empty()) {
-        const double dv = textValue(deg), mv = textValue(min);
-        if (dv != mv && mv <= 90.0 && dv < 60.0)
-            out.push_back({BlunderKind::DegMinSwap, {ColDeg, min}, Change{ColMin, deg}});
-    }
-    if (!lengths)
-        return out;
-    const int column = lengthColumn(cells, course);
-    lengthCandidates(cellText(cells[column - 1]), column, maxDecimals, chainLength, out);
-    return out;
 }
 
 struct Ranked {
@@ -270,7 +131,7 @@ std::vector<Suggestion> searchBlunders(const CourseTable &table, const LotFigure
         const double across = std::fabs(gap.n * std::cos(a) + gap.e * std::sin(a));
         const bool lengths = !keepsDirection || across <= gapLength / 2.0;
         std::unordered_set<std::string> seen;
-        for (Candidate &c : candidatesFor(cells, course, lengths, maxDecimals, chainLength)) {
+        for (Misreading &c : misreadings(cells, course, {lengths, maxDecimals, chainLength})) {
             std::string key = std::to_string(c.first.column) + '|' + c.first.text;
             if (!seen.insert(std::move(key)).second)
                 continue;
@@ -315,7 +176,10 @@ std::vector<Suggestion> searchBlunders(const CourseTable &table, const LotFigure
                 return true;
         return false;
     }();
-    if (!tableFull) {
+    // A whole call is only worth suggesting when the figure fails even the
+    // loosest commonly cited ratio; a short gap is no call.
+    const bool blunder = lot.perimeter < kPrecisionClasses.front() * gapLength;
+    if (blunder && !tableFull) {
         int lastEntry = lot.rows.front().row;
         for (const FigureRow &f : lot.rows)
             if (f.reading.hasContent)

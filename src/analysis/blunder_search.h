@@ -26,7 +26,8 @@ double roundingBound(const CourseTable &table, const LotFigure &lot);
 /// roundingBound. The ranking is by the gap left, and a gap within the rounding
 /// bound counts as closed. An omitted call always closes, so it ranks as if it
 /// left the rounding bound: a one-character slip that closes as well is the
-/// likelier reading. A changed distance never gets more decimal places than the
+/// likelier reading; and it is only offered when the lot closes worse than the
+/// loosest commonly cited ratio (1:5,000). A changed distance never gets more decimal places than the
 /// lot's distances are written with. @p chainLength: ground units in a chain (0: no such reading).
 std::vector<Suggestion> searchBlunders(const CourseTable &table, const LotFigure &lot, RowReader &reader,
                                        double chainLength);

@@ -7,10 +7,12 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <ostream>
 #include <sstream>
+#include <vector>
 
 #include "closure_report.h"
 #include "cli_commands.h"
@@ -54,12 +56,17 @@ std::string grouped(double v, int decimals)
 {
     char buf[64];
     auto [end, ec] = std::to_chars(buf, buf + sizeof buf, std::fabs(v), std::chars_format::fixed, decimals);
-    std::string s(buf, ec == std::errc() ? end : buf);
-    const size_t point = s.find('.');
-    for (long i = long(point == std::string::npos ? s.size() : point) - 3; i > 0; i -= 3)
-        s.insert(size_t(i), ",");
-    const bool zero = s.find_first_not_of("0.,") == std::string::npos;
-    return (v < 0.0 && !zero ? "-" : "") + s;
+    const std::string digits(buf, ec == std::errc() ? end : buf);
+    const size_t point = std::min(digits.find('.'), digits.size());
+    std::string s;
+    if (v < 0.0 && digits.find_first_not_of("0.") != std::string::npos)
+        s.push_back('-');
+    for (size_t i = 0; i < digits.size(); ++i) {
+        if (i > 0 && i < point && (point - i) % 3 == 0)
+            s.push_back(',');
+        s.push_back(digits[i]);
+    }
+    return s;
 }
 
 std::string signedGrouped(double v, int decimals)
@@ -126,6 +133,26 @@ std::string callText(const std::array<std::string, CourseTable::kColumns> &cells
     return s;
 }
 
+// "(better than 1:5,000 and 1:10,000; worse than 1:15,000 and 1:20,000)"
+std::string classComparison(const std::optional<double> &precision)
+{
+    std::vector<std::string> reached, missed;
+    for (int c : kPrecisionClasses)
+        (!precision || *precision >= c ? reached : missed).push_back("1:" + grouped(c, 0));
+    auto join = [](const std::vector<std::string> &names) {
+        std::string list;
+        for (size_t i = 0; i < names.size(); ++i)
+            list += (i == 0 ? "" : i + 1 == names.size() ? " and " : ", ") + names[i];
+        return list;
+    };
+    const std::string better = join(reached), worse = join(missed);
+    if (better.empty())
+        return "(worse than " + worse + ")";
+    if (worse.empty())
+        return "(better than " + better + ")";
+    return "(better than " + better + "; worse than " + worse + ")";
+}
+
 void writeAdjustment(std::ostream &out, const char *title, const Adjustment &a, Units units)
 {
     out << "  " << title << ", adjusted area " << areaText(a.area, units) << "\n";
@@ -161,13 +188,8 @@ void writeText(std::ostream &out, const std::string &file, const ClosureReport &
         if (!lot.programGap.empty())
             out << "  Plotter's gap     " << lot.programGap << "\n";
         out << "  Perimeter         " << grouped(lot.perimeter, 3) << "\n";
-        out << "  Precision         " << ratioText(lot.precision) << "\n";
-        out << "  Commonly cited    ";
-        for (size_t i = 0; i < kPrecisionClasses.size(); ++i) {
-            const int c = kPrecisionClasses[i];
-            out << (i ? ", " : "") << "1:" << grouped(c, 0) << (!lot.precision || *lot.precision >= c ? " met" : " not met");
-        }
-        out << "\n                    (a comparison with usual ratios, not a finding of compliance with any standard)\n";
+        out << "  Precision         " << ratioText(lot.precision) << " " << classComparison(lot.precision) << "\n"
+            << "                    (commonly cited ratios, for comparison only; not a finding of compliance)\n";
         for (const Note &note : lot.notes)
             out << "  Note: row " << note.row + 1 << ": " << note.text << "\n";
         writeAdjustment(out, "Compass (Bowditch) rule", lot.compass, units);
@@ -207,7 +229,7 @@ std::string jsonText(const ClosureReport &report)
         for (int c : kPrecisionClasses)
             classes.append(QJsonObject{{"ratio", c},
                                        {"name", qs("1:" + grouped(c, 0))},
-                                       {"met", !lot.precision || *lot.precision >= c}});
+                                       {"reached", !lot.precision || *lot.precision >= c}});
         QJsonArray notes;
         for (const Note &note : lot.notes)
             notes.append(QJsonObject{{"row", note.row}, {"text", qs(note.text)}});
