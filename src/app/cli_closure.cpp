@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <memory>
 #include <ostream>
 #include <sstream>
 #include <vector>
@@ -286,8 +287,11 @@ int runClosure(const ClosureOptions &options, std::ostream &out, std::ostream &e
     ClosureSettings settings;
     if (engine.units() == Units::Meters)
         settings.chainLength = 20.1168;
+    // The plotter's gap of each lot is computed on the engine's own table, so the
+    // analysis reads a copy that stays as the file gave it.
+    const auto table = std::make_unique<const CourseTable>(engine.table());
     const ClosureReport report = analyseClosure(
-        engine.table(), [&engine](int lastRow) { return gapTextThrough(engine, lastRow); }, settings);
+        *table, [&engine](int lastRow) { return gapTextThrough(engine, lastRow); }, settings);
     if (options.json)
         out << jsonText(report);
     else
