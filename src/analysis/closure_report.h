@@ -26,6 +26,7 @@
 #include <vector>
 
 #include "course_table.h"
+#include "ground_units.h"
 
 namespace quilmar::analysis {
 
@@ -123,8 +124,9 @@ using GapTextFn = std::function<std::string(int lastRow)>;
 /// What the analysis cannot know from the table alone.
 struct ClosureSettings {
     /// Ground units in a chain, for the reading "chains written as feet": 66 in
-    /// a deed in feet, 20.1168 in one in metres; 0 leaves that reading out.
-    double chainLength = 66.0;
+    /// a deed in feet, 66 / 3.281 in one in metres (the program's own metre);
+    /// 0 leaves that reading out.
+    double chainLength = groundUnitFactor(GroundUnit::Chains).feet;
 };
 
 /// Analyses every lot of @p table. Bad cells read as the plotter reads them

@@ -16,24 +16,13 @@ namespace {
 // that takes the running direction the row hands on.
 constexpr int kSeed = 0, kRow = 1, kProbe = 2;
 
-RowTag tagOf(const std::string &text)
-{
-    const std::string_view t = trimBlanks(text);
-    if (t == "B")
-        return RowTag::Begin;
-    if (t == "C")
-        return RowTag::Close;
-    if (t == "N")
-        return RowTag::NewLot;
-    if (t == "O")
-        return RowTag::Origin;
-    return RowTag::None;
-}
+// A number beyond double range reads as NaN in the leg; here it moves nothing.
+double finite(double v) { return std::isfinite(v) ? v : 0.0; }
 
 } // namespace
 
-double CourseReading::north() const { return -length * std::sin(direction * kPi / 180.0); }
-double CourseReading::east() const { return length * std::cos(direction * kPi / 180.0); }
+double CourseReading::north() const { return -length * sine; }
+double CourseReading::east() const { return length * cosine; }
 
 RowReader::RowReader() : m_scratch(std::make_unique<CourseTable>())
 {
@@ -62,15 +51,17 @@ CourseReading RowReader::read(const RowCells &cells, float runningBefore)
     const Leg &leg = m_legs[kRow];
     CourseReading r;
     r.direction = leg.directionValue();
-    r.radius = leg.radiusValue;
-    r.right = trimBlanks(leg.lr) == "R";
-    r.tag = tagOf(leg.tag);
+    r.cosine = leg.cosine;
+    r.sine = leg.sine;
+    r.radius = finite(leg.radius);
+    r.right = leg.side == CurveSide::Right;
+    r.tag = leg.tag;
     if (r.radius == 0.0) {
-        r.length = leg.distanceValue;
-        r.arc = leg.distanceValue;
+        r.length = finite(leg.distance);
+        r.arc = r.length;
     } else {
-        r.length = leg.chordValue;
-        r.arc = leg.distanceValue != 0.0 ? leg.distanceValue : leg.chordValue;
+        r.length = finite(leg.chord);
+        r.arc = finite(leg.distance) != 0.0 ? finite(leg.distance) : r.length;
     }
     r.runningAfter = m_legs[kProbe].directionValue();
     return r;

@@ -20,13 +20,13 @@ namespace quilmar::analysis {
 /// The ten cells of one row, columns 1 to 10 at indices 0 to 9.
 using RowCells = std::array<Cell, CourseTable::kColumns>;
 
-enum class RowTag { None, Begin, Close, NewLot, Origin };
-
 /// One row as the walk moves the pen along it.
 struct CourseReading {
     /// Degrees from east, clockwise on the map; 0 when the row sets no
     /// direction, as the walk then also uses 0.
     double direction = 0.0;
+    /// Cosine and sine of the direction, as the conversion computed them for the walk.
+    double cosine = 1.0, sine = 0.0;
     /// What the pen moves: the distance of a straight course, the chord of a curve.
     double length = 0.0;
     /// Length along the ground: the distance, or a curve's arc as completed.
@@ -35,13 +35,13 @@ struct CourseReading {
     double radius = 0.0;
     /// A curve bends right only for "R"; any other code is traced to the left.
     bool right = false;
-    RowTag tag = RowTag::None;
+    Tag tag = Tag::None;
     /// The running direction after the row (base of a following "+", "-" or
     /// tangent course), a single as the conversion keeps it.
     float runningAfter = 0.0f;
 
     bool curve() const { return radius != 0.0; }
-    /// Movement toward north and east; the program's circle constant converts degrees.
+    /// Movement toward north and east, as the walk moves the pen.
     double north() const;
     double east() const;
 };

@@ -23,20 +23,20 @@ std::vector<LotFigure> findLots(const std::vector<RowReading> &rows)
         beforeN[i] = n;
         beforeE[i] = e;
         const CourseReading &c = rows[i].course;
-        if (c.tag == RowTag::Close) {
+        if (c.tag == Tag::Close) {
             n = pobN;
             e = pobE;
             continue;
         }
         n += c.north();
         e += c.east();
-        if (c.tag == RowTag::NewLot) {
+        if (c.tag == Tag::NewLot) {
             n = originN;
             e = originE;
-        } else if (c.tag == RowTag::Begin) {
+        } else if (c.tag == Tag::Begin) {
             pobN = n;
             pobE = e;
-        } else if (c.tag == RowTag::Origin) {
+        } else if (c.tag == Tag::Origin) {
             originN = n;
             originE = e;
         }
@@ -48,21 +48,21 @@ std::vector<LotFigure> findLots(const std::vector<RowReading> &rows)
     int start = 0;
     while (start < count) {
         int end = start;
-        while (end < count - 1 && rows[end].course.tag != RowTag::NewLot)
+        while (end < count - 1 && rows[end].course.tag != Tag::NewLot)
             ++end;
         LotFigure lot;
         lot.lotEnd = end;
-        lot.endsWithNewLot = rows[end].course.tag == RowTag::NewLot;
+        lot.endsWithNewLot = rows[end].course.tag == Tag::NewLot;
         int figureEnd = end + 1;
         for (int i = start; i <= end; ++i) {
-            if (rows[i].course.tag == RowTag::Close) {
+            if (rows[i].course.tag == Tag::Close) {
                 lot.closeRow = i;
                 figureEnd = i;
                 break;
             }
         }
         for (int i = start; i < figureEnd; ++i)
-            if (rows[i].course.tag == RowTag::Begin)
+            if (rows[i].course.tag == Tag::Begin)
                 lot.pobRow = i;
         const int figureStart = lot.pobRow >= 0 ? lot.pobRow + 1 : start;
         lot.startNorth = beforeN[figureStart];

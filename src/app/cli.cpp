@@ -22,6 +22,8 @@ const Subcommand kSubcommands[] = {
      "Open a map file, then Calculate Gap, Perimeter, Acres and Hectares", setupReport},
     {"plot", "plot [--scale TEXT] [--units feet|meters|other] [--canvas WxH] -o OUT.png|OUT.svg FILE.map",
      "Draw the map canvas as the window shows it after opening a file", setupPlot},
+    {"closure", "closure [--json] FILE.map",
+     "Closure report: misclosure, precision, compass and transit adjustments, the likely bad call", setupClosure},
     {"sample", "sample N [-o OUT.map]", "Write demo sample N (1 to 6) as a map file", setupSample},
     {"calc", "calc [--json] NAME ANSWER", "Run a converter or calculator of the Conversions menu", setupCalc},
     {"convert", "convert FROM FILE.map [-o OUT.map]", "Convert a whole map file to feet (or metres)", setupConvert},

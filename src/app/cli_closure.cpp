@@ -16,8 +16,10 @@
 #include <vector>
 
 #include "closure_report.h"
+#include "cli.h"
 #include "cli_commands.h"
 #include "engine.h"
+#include "ground_units.h"
 #include "lot_gap_text.h"
 #include "recording_prompter.h"
 
@@ -256,26 +258,11 @@ std::string jsonText(const ClosureReport &report)
 
 } // namespace
 
-std::string parseClosureArgs(const std::vector<std::string> &args, ClosureOptions &options)
-{
-    for (const std::string &a : args) {
-        if (a == "--json")
-            options.json = true;
-        else if (a.size() > 1 && a[0] == '-')
-            return "unknown option " + a;
-        else if (options.file.empty())
-            options.file = a;
-        else
-            return "only one map file can be given";
-    }
-    return options.file.empty() ? "no map file given" : "";
-}
-
 int runClosure(const ClosureOptions &options, std::ostream &out, std::ostream &err)
 {
     RecordingPrompter prompter;
     Engine engine(prompter);
-    if (!engine.openMapFile(options.file)) {
+    if (!engine.openMapFile(options.file).ok()) {
         const std::vector<std::string> messages = prompter.take();
         for (const std::string &m : messages)
             err << m << "\n";
@@ -286,7 +273,7 @@ int runClosure(const ClosureOptions &options, std::ostream &out, std::ostream &e
     prompter.take();
     ClosureSettings settings;
     if (engine.units() == Units::Meters)
-        settings.chainLength = 20.1168;
+        settings.chainLength = groundUnitFactor(GroundUnit::Chains).feet / groundUnitFactor(GroundUnit::Meters).feet;
     // The plotter's gap of each lot is computed on the engine's own table, so the
     // analysis reads a copy that stays as the file gave it.
     const auto table = std::make_unique<const CourseTable>(engine.table());
@@ -299,18 +286,38 @@ int runClosure(const ClosureOptions &options, std::ostream &out, std::ostream &e
     return 0;
 }
 
-int runClosureCommand(const std::vector<std::string> &args, std::string &out, std::string &err)
+Command setupClosure(CLI::App &app)
 {
-    ClosureOptions options;
-    if (std::string problem = parseClosureArgs(args, options); !problem.empty()) {
-        err += "quilmar closure: " + problem + "\n" + usageText();
+    struct Arguments {
+        bool json = false;
+        std::vector<std::string> files;
+    };
+    auto raw = std::make_shared<Arguments>();
+    app.add_flag("--json", raw->json, "Print one JSON object: each lot's gap, adjustments and suggestions");
+    app.add_option("file", raw->files, "The map file (*.map)");
+    Command command;
+    command.usageError = [](const std::string &problem, CommandIo &io) {
+        io.err += "quilmar closure: " + problem + "\n" + usageText();
         return 2;
-    }
-    std::ostringstream o, e;
-    const int status = runClosure(options, o, e);
-    out += o.str();
-    err += e.str();
-    return status;
+    };
+    command.run = [raw, &app, usageError = command.usageError](CommandIo &io) {
+        std::vector<std::string> files = raw->files;
+        for (const std::string &extra : app.remaining()) {
+            if (extra.size() > 1 && extra[0] == '-')
+                return usageError("unknown option " + extra, io);
+            files.push_back(extra);
+        }
+        if (files.empty())
+            return usageError("no map file given", io);
+        if (files.size() > 1)
+            return usageError("only one map file can be given", io);
+        std::ostringstream out, err;
+        const int status = runClosure({raw->json, files.front()}, out, err);
+        io.out += out.str();
+        io.err += err.str();
+        return status;
+    };
+    return command;
 }
 
 } // namespace quilmar

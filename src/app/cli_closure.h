@@ -1,9 +1,9 @@
 #pragma once
 // quilmar closure [--json] FILE.map: the closure report of every lot of a deed.
+// Exit status 0, 1 when the map file cannot be read, 2 for bad arguments.
 
 #include <iosfwd>
 #include <string>
-#include <vector>
 
 namespace quilmar {
 
@@ -12,14 +12,9 @@ struct ClosureOptions {
     std::string file;
 };
 
-/// Parses the arguments after "closure". @returns "" or what is wrong with them.
-std::string parseClosureArgs(const std::vector<std::string> &args, ClosureOptions &options);
-
-/// Opens the map file as "Open File..." does and writes the report to @p out.
+/// Opens the map file as "Open File..." does and writes the report to @p out:
+/// text, or with `json` the JSON object described in the README.
 /// @returns 0, or 1 when the file cannot be read (the reason goes to @p err)
 int runClosure(const ClosureOptions &options, std::ostream &out, std::ostream &err);
-
-/// The whole subcommand: 0 done, 1 unreadable file, 2 bad arguments.
-int runClosureCommand(const std::vector<std::string> &args, std::string &out, std::string &err);
 
 } // namespace quilmar

@@ -29,6 +29,8 @@ Command setupReport(CLI::App &app);
 Command setupPlot(CLI::App &app);
 /// quilmar sample N [-o OUT.map]
 Command setupSample(CLI::App &app);
+/// quilmar closure [--json] FILE.map
+Command setupClosure(CLI::App &app);
 /// quilmar calc [--json] NAME ANSWER
 Command setupCalc(CLI::App &app);
 /// quilmar convert FROM FILE.map [-o OUT.map]

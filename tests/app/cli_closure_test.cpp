@@ -6,13 +6,24 @@
 
 #include <set>
 
-#include "cli_closure.h"
+#include "cli.h"
 
 using namespace quilmar;
 
 namespace {
 
 const std::string kBlunder = QUILMAR_TEST_DATA "/blunder.map";
+
+int runClosureCommand(const Args &args, std::string &out, std::string &err)
+{
+    Args line{"closure"};
+    line.insert(line.end(), args.begin(), args.end());
+    CommandIo io;
+    const int status = runCommandLine(line, io);
+    out += io.out;
+    err += io.err;
+    return status;
+}
 
 std::set<QString> keysOf(const QJsonObject &o)
 {
