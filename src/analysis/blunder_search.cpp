@@ -23,8 +23,14 @@ Vec rotateClockwise(Vec v, double degrees)
     return {v.n * std::cos(a) - v.e * std::sin(a), v.e * std::cos(a) + v.n * std::sin(a)};
 }
 
+// A change that halves the gap, before it is written out as a Suggestion.
 struct Ranked {
-    Suggestion suggestion;
+    BlunderKind kind = BlunderKind::NsFlip;
+    int row = 0;
+    Misreading change;                                     ///< the changed cells, or
+    std::array<std::string, CourseTable::kColumns> insert; ///< the omitted call's cells
+    Vec gap;
+    double perimeter = 0.0;
     double score = 0.0; ///< the gap left, never less than the rounding bound
     double left = 0.0;  ///< the gap left
 };
@@ -100,19 +106,12 @@ std::vector<Suggestion> searchBlunders(const CourseTable &table, const LotFigure
     }
 
     std::vector<Ranked> ranked;
-    auto consider = [&](BlunderKind kind, int row, std::array<std::string, CourseTable::kColumns> cells, Vec newGap,
-                        double perimeter) {
-        const double left = std::hypot(newGap.n, newGap.e);
-        if (!(left <= gapLength / 2.0))
+    // Keeps a change that halves the gap.
+    auto consider = [&](Ranked r) {
+        r.left = std::hypot(r.gap.n, r.gap.e);
+        if (!(r.left <= gapLength / 2.0))
             return;
-        Ranked r;
-        r.suggestion.row = row;
-        r.suggestion.kind = kind;
-        r.suggestion.cells = std::move(cells);
-        r.suggestion.gap = makeGap(newGap.n, newGap.e);
-        r.suggestion.precision = precisionOf(perimeter, left);
-        r.score = std::max(left, rounding);
-        r.left = left;
+        r.score = std::max(r.left, rounding);
         ranked.push_back(std::move(r));
     };
 
@@ -131,6 +130,7 @@ std::vector<Suggestion> searchBlunders(const CourseTable &table, const LotFigure
         const double across = std::fabs(gap.n * std::cos(a) + gap.e * std::sin(a));
         const bool lengths = !keepsDirection || across <= gapLength / 2.0;
         std::unordered_set<std::string> seen;
+        bool loaded = false;
         for (Misreading &c : misreadings(cells, course, {lengths, maxDecimals, chainLength})) {
             std::string key = std::to_string(c.first.column) + '|' + c.first.text;
             if (!seen.insert(std::move(key)).second)
@@ -142,11 +142,13 @@ std::vector<Suggestion> searchBlunders(const CourseTable &table, const LotFigure
                 changed = course;
                 changed.length = changed.arc = newValue;
             } else {
-                RowCells modified = cells;
-                modified[c.first.column - 1] = Cell(c.first.text);
-                if (c.second)
-                    modified[c.second->column - 1] = Cell(c.second->text);
-                changed = reader.read(modified, f.reading.runningBefore);
+                if (!loaded) {
+                    reader.load(cells);
+                    loaded = true;
+                }
+                changed = c.second ? reader.readChanged(f.reading.runningBefore, c.first.column, Cell(c.first.text),
+                                                        c.second->column, Cell(c.second->text))
+                                   : reader.readChanged(f.reading.runningBefore, c.first.column, Cell(c.first.text));
             }
             Vec newGap{gap.n - f.north + changed.north(), gap.e - f.east + changed.east()};
             const double turn = double(changed.runningAfter) - double(course.runningAfter);
@@ -158,13 +160,13 @@ std::vector<Suggestion> searchBlunders(const CourseTable &table, const LotFigure
             if (!(std::hypot(newGap.n, newGap.e) <= gapLength / 2.0))
                 continue;
             const double newArc = std::fabs(changed.arc != 0.0 ? changed.arc : changed.length);
-            std::array<std::string, CourseTable::kColumns> texts;
-            for (int k = 0; k < CourseTable::kColumns; ++k)
-                texts[k] = cellText(cells[k]);
-            texts[c.first.column - 1] = c.first.text;
-            if (c.second)
-                texts[c.second->column - 1] = c.second->text;
-            consider(c.kind, f.row, std::move(texts), newGap, lot.perimeter - oldArc + newArc);
+            Ranked r;
+            r.kind = c.kind;
+            r.row = f.row;
+            r.change = std::move(c);
+            r.gap = newGap;
+            r.perimeter = lot.perimeter - oldArc + newArc;
+            consider(std::move(r));
         }
     }
 
@@ -208,33 +210,48 @@ std::vector<Suggestion> searchBlunders(const CourseTable &table, const LotFigure
             for (int k = 0; k < CourseTable::kColumns; ++k)
                 cells[k] = Cell(texts[k]);
             const CourseReading inserted = reader.read(cells, runningBefore);
-            const Vec newGap{gap.n + inserted.north(), gap.e + inserted.east()};
-            consider(BlunderKind::Omitted, *at, std::move(texts), newGap, lot.perimeter + std::fabs(inserted.arc));
+            Ranked r;
+            r.kind = BlunderKind::Omitted;
+            r.row = *at;
+            r.insert = std::move(texts);
+            r.gap = {gap.n + inserted.north(), gap.e + inserted.east()};
+            r.perimeter = lot.perimeter + std::fabs(inserted.arc);
+            consider(std::move(r));
         }
     }
 
     std::stable_sort(ranked.begin(), ranked.end(), [](const Ranked &a, const Ranked &b) {
         if (a.score != b.score)
             return a.score < b.score;
-        const bool aOmitted = a.suggestion.kind == BlunderKind::Omitted;
-        if (aOmitted != (b.suggestion.kind == BlunderKind::Omitted))
+        const bool aOmitted = a.kind == BlunderKind::Omitted;
+        if (aOmitted != (b.kind == BlunderKind::Omitted))
             return !aOmitted;
         if (a.left != b.left)
             return a.left < b.left;
-        if (a.suggestion.kind != b.suggestion.kind)
-            return a.suggestion.kind < b.suggestion.kind;
-        return a.suggestion.row < b.suggestion.row;
+        if (a.kind != b.kind)
+            return a.kind < b.kind;
+        return a.row < b.row;
     });
     std::vector<Suggestion> out;
     for (Ranked &r : ranked) {
         if (int(out.size()) == kMaxSuggestions)
             break;
-        const bool duplicate = std::any_of(out.begin(), out.end(), [&](const Suggestion &s) {
-            return s.row == r.suggestion.row && s.cells == r.suggestion.cells && s.kind != BlunderKind::Omitted &&
-                   r.suggestion.kind != BlunderKind::Omitted;
-        });
-        if (!duplicate)
-            out.push_back(std::move(r.suggestion));
+        Suggestion s;
+        s.row = r.row;
+        s.kind = r.kind;
+        if (r.kind == BlunderKind::Omitted) {
+            s.cells = std::move(r.insert);
+        } else {
+            const RowCells cells = rowCells(table, r.row);
+            for (int k = 0; k < CourseTable::kColumns; ++k)
+                s.cells[k] = cellText(cells[k]);
+            s.cells[r.change.first.column - 1] = r.change.first.text;
+            if (r.change.second)
+                s.cells[r.change.second->column - 1] = r.change.second->text;
+        }
+        s.gap = makeGap(r.gap.n, r.gap.e);
+        s.precision = precisionOf(r.perimeter, r.left);
+        out.push_back(std::move(s));
     }
     return out;
 }

@@ -35,10 +35,34 @@ RowReader::~RowReader() = default;
 
 CourseReading RowReader::read(const RowCells &cells, float runningBefore)
 {
+    load(cells);
+    return convert(runningBefore);
+}
+
+void RowReader::load(const RowCells &cells)
+{
+    m_loaded = cells;
+    for (int c = 0; c < CourseTable::kColumns; ++c)
+        m_scratch->at(kRow, c + 1) = cells[c];
+}
+
+CourseReading RowReader::readChanged(float runningBefore, int column, const Cell &cell, int column2, const Cell &cell2)
+{
+    CourseTable &t = *m_scratch;
+    t.at(kRow, column) = cell;
+    if (column2 != 0)
+        t.at(kRow, column2) = cell2;
+    const CourseReading r = convert(runningBefore);
+    t.at(kRow, column) = m_loaded[column - 1];
+    if (column2 != 0)
+        t.at(kRow, column2) = m_loaded[column2 - 1];
+    return r;
+}
+
+CourseReading RowReader::convert(float runningBefore)
+{
     CourseTable &t = *m_scratch;
     t.at(kSeed, ColDeg) = Cell(double(runningBefore));
-    for (int c = 0; c < CourseTable::kColumns; ++c)
-        t.at(kRow, c + 1) = cells[c];
     t.highest = 1;
     try {
         convertCourses(t, m_legs, [](const std::string &) {});

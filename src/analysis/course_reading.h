@@ -59,9 +59,20 @@ public:
 
     CourseReading read(const RowCells &cells, float runningBefore);
 
+    /// Puts @p cells in place for readChanged, which reads them again and
+    /// again with one or two cells changed (cheaper than read for each).
+    void load(const RowCells &cells);
+    /// Reads the loaded row with cell @p column (1 to 10) changed to @p cell,
+    /// and @p column2 to @p cell2 when @p column2 is not 0; the loaded cells stay.
+    CourseReading readChanged(float runningBefore, int column, const Cell &cell, int column2 = 0,
+                              const Cell &cell2 = Cell());
+
 private:
+    CourseReading convert(float runningBefore);
+
     std::unique_ptr<CourseTable> m_scratch;
     LegTable m_legs;
+    RowCells m_loaded;
 };
 
 /// A row of the table as read in order, with how it hangs on the course before it.
