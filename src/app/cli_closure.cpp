@@ -262,12 +262,13 @@ int runClosure(const ClosureOptions &options, std::ostream &out, std::ostream &e
 {
     RecordingPrompter prompter;
     Engine engine(prompter);
-    if (!engine.openMapFile(options.file).ok()) {
+    const OpenOutcome opened = engine.openMapFile(options.file);
+    if (!opened.ok()) {
         const std::vector<std::string> messages = prompter.take();
         for (const std::string &m : messages)
             err << m << "\n";
         if (messages.empty())
-            err << "Cannot read the map file " << options.file << ".\n";
+            err << opened.reason << "\n";
         return 1;
     }
     prompter.take();
