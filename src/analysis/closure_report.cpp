@@ -51,8 +51,8 @@ ClosureReport analyseClosure(const CourseTable &table, const GapTextFn &gapText,
         r.lastRow = lot.lastRow;
         r.pobRow = lot.pobRow;
         r.closeRow = lot.closeRow;
-        r.pobNorth = lot.startNorth;
-        r.pobEast = lot.startEast;
+        r.pobNorth = lot.pobNorth;
+        r.pobEast = lot.pobEast;
         r.gap = makeGap(lot.gapNorth, lot.gapEast);
         r.perimeter = lot.perimeter;
         if (r.gap.distance != 0.0)

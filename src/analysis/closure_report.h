@@ -11,9 +11,11 @@
 // the command line show the same value.
 //
 // Lots and figures: a lot runs from the row after an "N" row (or row 0) to the
-// next "N" row (inclusive) or the table's end. Its figure runs from the point of
-// beginning (where the lot's last "B" row before its close puts the pen, or the
-// lot's first point when it has no "B") to its first "C" row or its end. A "C"
+// next "N" row (inclusive) or the table's end. Its figure runs from the row after
+// its last "B" row before its close (or from its first row) to its first "C"
+// row or its end, and closes on the point of beginning as the plotter's walk
+// keeps it: where the last "B" row put the pen, in this lot or an earlier one
+// (the table's first point when there is none). A "C"
 // row's closing leg is no measured call: the gap is the one before it, as
 // Calculate Gap reports it, and the adjustment spreads it over the measured
 // calls. Curves take part through their chords; their radii are kept.
@@ -92,7 +94,7 @@ struct Note {
 
 struct LotReport {
     int firstRow = 0, lastRow = 0; ///< first and last row with any entry in the lot
-    int pobRow = -1;               ///< the "B" row, or -1
+    int pobRow = -1;               ///< the "B" row in force (perhaps in an earlier lot), or -1
     int closeRow = -1;             ///< the "C" row, or -1
     double pobNorth = 0.0, pobEast = 0.0;
     Gap gap;

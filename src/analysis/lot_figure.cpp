@@ -17,11 +17,16 @@ std::vector<LotFigure> findLots(const std::vector<RowReading> &rows)
     const int count = int(rows.size());
     // The walk's pen before each row, in the plotter's manner: a "C" row returns
     // to the point of beginning, "N" to the origin, "O" sets the origin.
-    std::vector<double> beforeN(count + 1), beforeE(count + 1);
+    std::vector<double> beforeN(count + 1), beforeE(count + 1), pobBeforeN(count + 1), pobBeforeE(count + 1);
+    std::vector<int> beginBefore(count + 1, -1);
     double n = 0.0, e = 0.0, pobN = 0.0, pobE = 0.0, originN = 0.0, originE = 0.0;
+    int begin = -1;
     for (int i = 0; i < count; ++i) {
         beforeN[i] = n;
         beforeE[i] = e;
+        pobBeforeN[i] = pobN;
+        pobBeforeE[i] = pobE;
+        beginBefore[i] = begin;
         const CourseReading &c = rows[i].course;
         if (c.tag == Tag::Close) {
             n = pobN;
@@ -36,6 +41,7 @@ std::vector<LotFigure> findLots(const std::vector<RowReading> &rows)
         } else if (c.tag == Tag::Begin) {
             pobN = n;
             pobE = e;
+            begin = i;
         } else if (c.tag == Tag::Origin) {
             originN = n;
             originE = e;
@@ -43,6 +49,9 @@ std::vector<LotFigure> findLots(const std::vector<RowReading> &rows)
     }
     beforeN[count] = n;
     beforeE[count] = e;
+    pobBeforeN[count] = pobN;
+    pobBeforeE[count] = pobE;
+    beginBefore[count] = begin;
 
     std::vector<LotFigure> lots;
     int start = 0;
@@ -67,6 +76,13 @@ std::vector<LotFigure> findLots(const std::vector<RowReading> &rows)
         const int figureStart = lot.pobRow >= 0 ? lot.pobRow + 1 : start;
         lot.startNorth = beforeN[figureStart];
         lot.startEast = beforeE[figureStart];
+        // Without its own "B" the lot closes, as the plotter closes it, on the
+        // point of beginning an earlier lot set (the table's first point if none).
+        lot.pobRow = beginBefore[figureStart];
+        lot.pobNorth = pobBeforeN[figureStart];
+        lot.pobEast = pobBeforeE[figureStart];
+        lot.gapNorth = lot.startNorth - lot.pobNorth;
+        lot.gapEast = lot.startEast - lot.pobEast;
         for (int i = figureStart; i < figureEnd; ++i) {
             FigureRow f;
             f.row = i;

@@ -178,7 +178,7 @@ void writeText(std::ostream &out, const std::string &file, const ClosureReport &
     for (const LotReport &lot : report.lots) {
         out << "\nLot " << ++n << ": rows " << lot.firstRow + 1 << " to " << lot.lastRow + 1;
         if (lot.pobRow >= 0)
-            out << ", beginning after row " << lot.pobRow + 1;
+            out << ", point of beginning after row " << lot.pobRow + 1;
         if (lot.closeRow >= 0)
             out << ", closed by row " << lot.closeRow + 1;
         out << "\n";

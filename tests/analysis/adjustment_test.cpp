@@ -110,10 +110,11 @@ TEST(Adjustment, CurveKeepsItsRadiusAndItsSegmentCountsOnItsSide)
     }
 }
 
-TEST(Adjustment, LotsAreCutAtNewLotRowsAndStartWhereBeginPutsThem)
+TEST(Adjustment, LotsAreCutAtNewLotRowsAndCloseWhereBeginPutThePen)
 {
     // A tie course east 50, then "B"; a 10 x 10 square with its last side 1 short;
-    // "N"; a second square without "B" that closes, beginning at the origin.
+    // "N"; a 20 x 20 square from the origin without a "B" of its own, which the
+    // plotter closes on the first lot's point of beginning, 50 east.
     const ClosureReport report = analyseClosure(makeTable({{"N", "90", "0", "0", "E", "50", "", "", "", "B"},
                                                            {"N", "0", "0", "0", "E", "10", "", "", "", ""},
                                                            {"N", "90", "0", "0", "E", "10", "", "", "", ""},
@@ -132,9 +133,10 @@ TEST(Adjustment, LotsAreCutAtNewLotRowsAndStartWhereBeginPutsThem)
     // The compass rule moves each call west by length / 39: corners (10, -0.2564),
     // (10, 9.4872), (0, 9.2308); area 94.872.
     EXPECT_NEAR(report.lots[0].compass.area, 94.872, 0.001);
-    EXPECT_EQ(report.lots[1].firstRow, 5);
-    EXPECT_EQ(report.lots[1].pobRow, -1);
-    EXPECT_NEAR(report.lots[1].pobEast, 0.0, 1e-9);
-    EXPECT_LT(report.lots[1].gap.distance, 1e-4);
-    EXPECT_TRUE(report.lots[1].suggestions.empty());
+    const LotReport &second = report.lots[1];
+    EXPECT_EQ(second.firstRow, 5);
+    EXPECT_EQ(second.pobRow, 0);
+    EXPECT_NEAR(second.pobEast, 50.0, 1e-6);
+    EXPECT_NEAR(second.gap.east, -50.0, 1e-5);
+    EXPECT_NEAR(second.compass.calls.back().east, 50.0, 1e-9) << "the adjusted figure ends on the point of beginning";
 }
