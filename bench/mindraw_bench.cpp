@@ -11,59 +11,12 @@
 
 #include "canvas_image.h"
 #include "engine.h"
+#include "full_table.h"
 
 namespace {
 
-class Silent : public quilmar::Prompter {
-public:
-    quilmar::Answer ask(const std::string &, const std::string &, quilmar::Buttons, quilmar::Icon) override
-    {
-        return quilmar::Answer::Ok;
-    }
-};
-
-void fillFullTable(quilmar::CourseTable &t, const char *closingRadius)
-{
-    using namespace quilmar;
-    t.at(0, ColTag) = "B";
-    for (int r = 1; r < CourseTable::kRows - 1; ++r) {
-        const std::string distance = std::to_string(100 + (r * 37) % 400);
-        switch (r % 5) {
-        case 0: // tangent curve
-            t.at(r, ColDistance) = distance;
-            t.at(r, ColRadius) = std::to_string(300 + (r * 13) % 500);
-            t.at(r, ColLR) = r % 2 ? "R" : "L";
-            break;
-        case 1: // quadrant bearing
-            t.at(r, ColNS) = r % 4 < 2 ? "N" : "S";
-            t.at(r, ColDeg) = std::to_string((r * 7) % 90);
-            t.at(r, ColMin) = std::to_string((r * 11) % 60);
-            t.at(r, ColSec) = std::to_string((r * 17) % 60);
-            t.at(r, ColEW) = r % 3 ? "E" : "W";
-            t.at(r, ColDistance) = distance;
-            break;
-        case 2: // turned course
-            t.at(r, ColNS) = r % 4 < 2 ? "+" : "-";
-            t.at(r, ColDeg) = std::to_string(10 + r % 50);
-            t.at(r, ColDistance) = distance;
-            break;
-        case 3: // curve by chord and bearing
-            t.at(r, ColNS) = "S";
-            t.at(r, ColDeg) = std::to_string(r % 90);
-            t.at(r, ColEW) = "W";
-            t.at(r, ColChord) = std::to_string(100 + r % 150);
-            t.at(r, ColRadius) = "400";
-            t.at(r, ColLR) = r % 2 ? "L" : "R";
-            break;
-        default: // tangent straight course
-            t.at(r, ColDistance) = distance;
-            break;
-        }
-    }
-    t.at(CourseTable::kRows - 1, ColRadius) = closingRadius;
-    t.at(CourseTable::kRows - 1, ColTag) = "C";
-    t.gethighest();
-}
+using quilmar::bench::fillFullTable;
+using quilmar::bench::Silent;
 
 void mindrawFullTable(benchmark::State &state, const char *closingRadius)
 {

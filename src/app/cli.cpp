@@ -20,8 +20,12 @@ struct Subcommand {
 const Subcommand kSubcommands[] = {
     {"report", "report [--json] [--scale TEXT] [--units feet|meters|other] [--canvas WxH] FILE.map",
      "Open a map file, then Calculate Gap, Perimeter, Acres and Hectares", setupReport},
-    {"plot", "plot [--scale TEXT] [--units feet|meters|other] [--canvas WxH] -o OUT.png|OUT.svg FILE.map",
-     "Draw the map canvas as the window shows it after opening a file", setupPlot},
+    {"plot",
+     "plot [--scale TEXT] [--units feet|meters|other] [--canvas WxH] -o OUT.png|OUT.svg FILE.map\n"
+     "  quilmar plot --page [--options LIST] [--paper letter|a4] [--scale TEXT] [--units U] -o OUT.pdf FILE.map\n"
+     "  quilmar plot --data [--paper letter|a4] -o OUT.pdf FILE.map",
+     "Draw the map canvas as the window shows it after opening a file, or print the map page or the data to a PDF",
+     setupPlot},
     {"closure", "closure [--json] FILE.map",
      "Closure report: misclosure, precision, compass and transit adjustments, the likely bad call", setupClosure},
     {"sample", "sample N [-o OUT.map]", "Write demo sample N (1 to 6) as a map file", setupSample},

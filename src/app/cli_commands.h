@@ -26,6 +26,8 @@ struct Command {
 /// quilmar report [--json] [--scale TEXT] [--units feet|meters|other] [--canvas WxH] FILE.map
 Command setupReport(CLI::App &app);
 /// quilmar plot [--scale TEXT] [--units U] [--canvas WxH] -o OUT.png|OUT.svg FILE.map
+/// quilmar plot --page [--options LIST] [--paper letter|a4] ... -o OUT.pdf FILE.map
+/// quilmar plot --data [--paper letter|a4] -o OUT.pdf FILE.map
 Command setupPlot(CLI::App &app);
 /// quilmar sample N [-o OUT.map]
 Command setupSample(CLI::App &app);

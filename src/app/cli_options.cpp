@@ -54,7 +54,7 @@ void addMapOptions(CLI::App &app, MapArguments &raw, std::initializer_list<std::
             app.add_option("--canvas", raw.canvas, "The map canvas in whole twips, WIDTHxHEIGHT (default 7200x4800)");
             command.needs["--canvas"] = "--canvas needs WIDTHxHEIGHT in twips";
         } else if (flag == "-o") {
-            app.add_option("-o", raw.output, "The picture to write: OUT.png or OUT.svg");
+            app.add_option("-o", raw.output, "The file to write: OUT.png or OUT.svg, or OUT.pdf with --page or --data");
             command.needs["-o"] = "-o needs a file name";
         }
     }

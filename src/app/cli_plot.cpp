@@ -1,5 +1,6 @@
 // quilmar plot: the map canvas as the window shows it after opening a file,
-// written as a PNG or SVG picture (15 twips a pixel).
+// written as a PNG or SVG picture (15 twips a pixel); with --page or --data the
+// printouts as a PDF file.
 
 #include <QGuiApplication>
 #include <QString>
@@ -8,6 +9,7 @@
 
 #include "canvas_image.h"
 #include "cli_options.h"
+#include "cli_print.h"
 #include "recording_prompter.h"
 
 namespace quilmar {
@@ -30,12 +32,31 @@ int usageError(const std::string &problem, CommandIo &io)
     return 2;
 }
 
-int plot(const MapArguments &raw, CommandIo &io)
+struct PlotArguments {
+    MapArguments map;
+    PrintFlags print;
+};
+
+int plot(const PlotArguments &raw, CommandIo &io)
 {
     std::string &err = io.err;
     MapCommandOptions options;
-    if (std::string problem = checkMapOptions(raw, options); !problem.empty())
+    std::string problem = checkMapOptions(raw.map, options);
+    if (problem.empty())
+        problem = checkPrintFlags(raw.print);
+    if (problem.empty() && raw.print.options) {
+        PrintOptions unused;
+        problem = parsePrintOptionList(*raw.print.options, unused);
+    }
+    if (!problem.empty())
         return usageError(problem, io);
+    if (raw.print.page || raw.print.data) {
+        if (!endsWith(options.output, ".pdf")) {
+            err += "quilmar plot: give the printout with -o OUT.pdf\n";
+            return 1;
+        }
+        return runPrintToPdf(raw.print, options, io);
+    }
     const bool svg = endsWith(options.output, ".svg");
     if (options.output.empty() || (!svg && !endsWith(options.output, ".png"))) {
         err += "quilmar plot: give the picture with -o OUT.png or -o OUT.svg\n";
@@ -79,9 +100,20 @@ int plot(const MapArguments &raw, CommandIo &io)
 
 Command setupPlot(CLI::App &app)
 {
-    auto raw = std::make_shared<MapArguments>();
+    auto raw = std::make_shared<PlotArguments>();
     Command command;
-    addMapOptions(app, *raw, {"--scale", "--units", "--canvas", "-o"}, command);
+    addMapOptions(app, raw->map, {"--scale", "--units", "--canvas", "-o"}, command);
+    app.add_flag("--page", raw->print.page, "Print the map page to the PDF file -o names");
+    app.add_flag("--data", raw->print.data, "Print the data listing to the PDF file -o names");
+    app.add_option_function<std::string>(
+        "--options", [raw](const std::string &list) { raw->print.options = list; },
+        "With --page: the print options that are on, comma-separated (reference-points, reference-list, "
+        "description, frame, balance-gap); \"\" turns all off");
+    command.needs["--options"] = "--options needs a list (\"\" for none)";
+    app.add_option_function<std::string>(
+        "--paper", [raw](const std::string &paper) { raw->print.paper = paper; raw->print.paperGiven = true; },
+        "The paper of a printout: letter (the default) or a4");
+    command.needs["--paper"] = "--paper needs letter or a4";
     command.usageError = usageError;
     command.run = [raw](CommandIo &io) { return plot(*raw, io); };
     return command;

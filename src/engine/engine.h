@@ -133,6 +133,7 @@ public:
     const std::string &description() const { return m_description; }
     const std::string &scaleText() const { return m_scale.scaleText; }
     Units units() const { return m_scale.units; }
+    const ScaleChoice &scaleChoice() const { return m_scale; }
     float metricFactor() const { return m_metricFactor; }
     const PrintOptions &printOptions() const { return m_printOptions; }
     /// The File menu's flag: true once any mindraw has computed a map.

@@ -5,8 +5,13 @@
 //
 // Each drawing call is kept as "#rrggbb kind numbers...", with the colour in
 // force at the time, e.g. "#000080 line 0 150 1500 150"; a move of the scale
-// origin as "scaleLeft -360" or "scaleOrigin -360 -1080". Numbers are written
-// in their shortest exact form ("0.5", "-360", "1.5707963").
+// origin as "scaleLeft -360" or "scaleOrigin -360 -1080", a font as
+// "font Arial 7.8 bold|plain", a new page as "newPage". Numbers are written in
+// their shortest exact form ("0.5", "-360", "1.5707963").
+//
+// Text metrics are simple and exact, so that tests can work positions out by
+// hand: a character is half the font's size wide (80 twips at 8 points) and a
+// line is the constructor's height scaled by the font's size over 8 points.
 
 #include <string>
 #include <vector>
@@ -31,7 +36,9 @@ public:
     void circle(PointF centre, float radius) override;
     /// Kept as "#rrggbb text x y lineOffset the text".
     void text(PointF at, int lineOffset, std::string_view utf8) override;
-    float textHeight() const override { return m_textHeight; }
+    float textHeight() const override { return m_textHeight * m_font.points / 8.0f; }
+    void setFont(const FontSpec &font) override;
+    void newPage() override;
 
     const std::vector<std::string> &calls() const { return m_calls; }
     Rgb colour() const { return m_colour; }

@@ -3,14 +3,25 @@
 // image, an SVG file or a test's recorder. It is shaped like a picture box: a
 // movable scale origin, a fore colour, and lines, arcs, circles and text in
 // drawing units (twips; x east, y south). Every call draws with a 1-unit solid
-// pen and never fills.
+// pen and never fills. A printer page adds fonts, measured text and new pages;
+// a surface that has none of these keeps one font and one page.
 
+#include <string>
 #include <string_view>
 
 #include "palette.h"
 #include "point.h"
 
 namespace quilmar {
+
+/// A text font as a printer knows it: face name, size in points (1/72 inch,
+/// 20 twips), bold or not.
+struct FontSpec {
+    std::string name = "Arial";
+    float points = 8.0f;
+    bool bold = false;
+    bool operator==(const FontSpec &) const = default;
+};
 
 class Surface {
 public:
@@ -50,6 +61,25 @@ public:
 
     /// Height of one text line in the surface's font, in twips (above 0).
     virtual float textHeight() const = 0;
+
+    /// The font of later text() calls. A surface without fonts keeps its own and
+    /// reports the last one set.
+    virtual FontSpec font() const { return m_font; }
+    virtual void setFont(const FontSpec &font) { m_font = font; }
+
+    /// Printed width of @p utf8 in the current font, in twips (0 for "").
+    /// Without real metrics: half the font's size a character.
+    virtual float textWidth(std::string_view utf8) const
+    {
+        return float(utf8.size()) * m_font.points * 10.0f;
+    }
+
+    /// Ends the page and starts a new one with the same scale origin and font;
+    /// a surface of one page (a canvas, an image) ignores it.
+    virtual void newPage() {}
+
+protected:
+    FontSpec m_font;
 };
 
 } // namespace quilmar

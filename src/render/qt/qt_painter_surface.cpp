@@ -5,6 +5,7 @@
 #include <numbers>
 
 #include <QFontMetricsF>
+#include <QPagedPaintDevice>
 #include <QPaintDevice>
 #include <QPainter>
 #include <QPainterPath>
@@ -33,30 +34,70 @@ QtPainterSurface::QtPainterSurface(QPainter &painter, const DeviceMapping &mappi
     : m_painter(painter), m_mapping(mapping)
 {
     // The classic 8-point dialog font; DejaVu Sans is what Debian ships, any
-    // other sans face serves where it is missing. The size is set in device
-    // units so that 8 points are 160 twips on every device, whatever dpi the
-    // device reports.
-    m_font.setFamilies({QStringLiteral("DejaVu Sans"), QStringLiteral("Sans Serif")});
-    m_font.setStyleHint(QFont::SansSerif);
-    m_font.setPixelSize(std::max(1, static_cast<int>(std::lround(
-                                        m_mapping.toDeviceLength(kTextPoints * kTwipsPerPoint)))));
+    // other sans face serves where it is missing.
+    m_font = FontSpec{"DejaVu Sans", float(kTextPoints), false};
+    if (m_painter.isActive()) {
+        const int type = m_painter.device()->devType();
+        m_painter.setRenderHint(QPainter::Antialiasing, type == QInternal::Image || type == QInternal::Pixmap);
+        m_painter.setBrush(Qt::NoBrush);
+        setColour(paletteColour(Palette::Black)); // a picture box's default fore colour
+    }
+    applyFont();
+}
+
+void QtPainterSurface::setFont(const FontSpec &font)
+{
+    m_font = font;
+    applyFont();
+}
+
+void QtPainterSurface::applyFont()
+{
+    QStringList families{QString::fromStdString(m_font.name)};
+    QFont::StyleHint hint = QFont::SansSerif;
+    if (m_font.name == "Courier" || m_font.name == "Courier New") {
+        families << QStringLiteral("Courier New") << QStringLiteral("Liberation Mono")
+                 << QStringLiteral("DejaVu Sans Mono") << QStringLiteral("Monospace");
+        hint = QFont::TypeWriter;
+    } else {
+        families << QStringLiteral("Liberation Sans") << QStringLiteral("DejaVu Sans")
+                 << QStringLiteral("Sans Serif");
+    }
+    QFont qfont;
+    qfont.setFamilies(families);
+    qfont.setStyleHint(hint);
+    qfont.setFixedPitch(hint == QFont::TypeWriter);
+    qfont.setBold(m_font.bold);
+    // Set in device units so that the size in twips is right on every device.
+    const double points = m_font.points > 0.0f ? m_font.points : kTextPoints;
+    qfont.setPixelSize(std::max(1, static_cast<int>(std::lround(m_mapping.toDeviceLength(points * kTwipsPerPoint)))));
+    m_qfont = qfont;
     if (!m_painter.isActive())
         return;
-
-    const int type = m_painter.device()->devType();
-    m_painter.setRenderHint(QPainter::Antialiasing, type == QInternal::Image || type == QInternal::Pixmap);
-    m_painter.setBrush(Qt::NoBrush);
-    m_painter.setFont(m_font);
-    setColour(paletteColour(Palette::Black)); // a picture box's default fore colour
-
-    const QFontMetricsF metrics(m_font, m_painter.device());
+    m_painter.setFont(m_qfont);
+    const QFontMetricsF metrics(m_qfont, m_painter.device());
     m_ascent = metrics.ascent();
     m_lineSpacing = metrics.lineSpacing();
 }
 
+float QtPainterSurface::textWidth(std::string_view utf8) const
+{
+    const QString text = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+    const double width = m_painter.isActive() ? QFontMetricsF(m_qfont, m_painter.device()).horizontalAdvance(text)
+                                              : QFontMetricsF(m_qfont).horizontalAdvance(text);
+    return static_cast<float>(m_mapping.toDrawingLength(width));
+}
+
+void QtPainterSurface::newPage()
+{
+    if (m_pages && m_painter.isActive())
+        m_pages->newPage();
+}
+
 void QtPainterSurface::setColour(Rgb colour)
 {
-    QPen pen(toQColor(colour), 1.0, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
+    const double width = m_lineWidth > 0.0f ? std::max(1.0, m_mapping.toDeviceLength(m_lineWidth)) : 1.0;
+    QPen pen(toQColor(colour), width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
     pen.setCosmetic(true);
     m_painter.setPen(pen);
 }
@@ -117,7 +158,7 @@ void QtPainterSurface::text(PointF at, int lineOffset, std::string_view utf8)
 
 float QtPainterSurface::textHeight() const
 {
-    const double spacing = m_lineSpacing > 0.0 ? m_lineSpacing : m_font.pixelSize();
+    const double spacing = m_lineSpacing > 0.0 ? m_lineSpacing : m_qfont.pixelSize();
     return static_cast<float>(m_mapping.toDrawingLength(spacing));
 }
 

@@ -7,7 +7,10 @@
 // pixel on an image, one dot on a printer), drawn through the centres of device
 // units so that a horizontal leg on an image covers exactly one pixel row.
 // Images and pixmaps are drawn antialiased. Text uses a small sans font of
-// 8 points (160 twips, 11 pixels on a 96-dpi screen).
+// 8 points (160 twips, 11 pixels on a 96-dpi screen) until setFont() chooses
+// another; font sizes are kept in twips, so a point is the same length on every
+// device whatever dpi it reports. On a printer or PDF writer given as the paged
+// device, newPage() starts the next sheet.
 
 #include <QColor>
 #include <QFont>
@@ -17,6 +20,7 @@
 #include "surface.h"
 
 class QPainter;
+class QPagedPaintDevice;
 
 namespace quilmar {
 
@@ -37,6 +41,14 @@ public:
 
     const DeviceMapping &mapping() const { return m_mapping; }
 
+    /// The printer or PDF writer the painter draws on, for newPage(); without
+    /// one (an image, an SVG) newPage() does nothing.
+    void setPagedDevice(QPagedPaintDevice *device) { m_pages = device; }
+
+    /// Width of lines, arcs and circles in twips from the next colour set on;
+    /// 0 (the default) is one device unit.
+    void setLineWidth(float twips) { m_lineWidth = twips; }
+
     float scaleLeft() const override { return m_mapping.scaleLeft(); }
     float scaleTop() const override { return m_mapping.scaleTop(); }
     void setScaleLeft(float left) override { m_mapping.setScaleLeft(left); }
@@ -51,6 +63,11 @@ public:
     /// The font's line spacing in twips: about 13 pixels, some 190 twips, on a
     /// 15-twip-a-pixel image.
     float textHeight() const override;
+    /// "Arial" and "Courier" fall back to the metric-compatible Liberation faces
+    /// and then to DejaVu where the named face is missing; "Courier" is fixed pitch.
+    void setFont(const FontSpec &font) override;
+    float textWidth(std::string_view utf8) const override;
+    void newPage() override;
 
 private:
     /// Device position of a drawing point's device unit centre.
@@ -58,7 +75,11 @@ private:
 
     QPainter &m_painter;
     DeviceMapping m_mapping;
-    QFont m_font;
+    void applyFont();
+
+    QPagedPaintDevice *m_pages = nullptr;
+    float m_lineWidth = 0.0f;
+    QFont m_qfont;
     double m_ascent = 0.0;      ///< device units
     double m_lineSpacing = 0.0; ///< device units
 };

@@ -1,0 +1,237 @@
+// The map page and the data printout as the engine prints them, recorded.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <sstream>
+
+#include "map_printout.h"
+#include "recording_surface.h"
+
+using namespace quilmar;
+
+namespace {
+
+class Silent : public Prompter {
+public:
+    Answer ask(const std::string &text, const std::string &, Buttons, Icon) override
+    {
+        messages.push_back(text);
+        return Answer::Ok;
+    }
+    std::vector<std::string> messages;
+};
+
+using Row = std::array<const char *, 10>;
+
+// N 100, E 100, S 100, W 90: a square that misses its start by 10 feet.
+struct Printout {
+    Silent prompter;
+    Engine engine{prompter};
+    Printout(std::initializer_list<Row> rows, const char *scale = "Standard")
+    {
+        engine.metrix_Click(Units::Feet);
+        engine.setScaleText(scale);
+        engine.setDescription("Lot 7");
+        int r = 0;
+        for (const Row &row : rows) {
+            for (int c = 0; c < 10; ++c)
+                engine.editTable().at(r, c + 1) = Cell(std::string(row[size_t(c)]));
+            ++r;
+        }
+        engine.editTable().gethighest();
+        engine.redraw();
+    }
+};
+
+const std::initializer_list<Row> kOpenSquare{
+    {"N", "", "", "", "", "100", "", "", "", ""},
+    {"E", "", "", "", "", "100", "", "", "", ""},
+    {"S", "", "", "", "", "100", "", "", "", ""},
+    {"W", "", "", "", "", "90", "", "", "", ""},
+};
+
+struct Line {
+    double x1, y1, x2, y2;
+};
+
+// The map's lines in page twips (the recorder keeps drawing coordinates and the
+// origin moves; this puts them back on the page).
+std::vector<Line> mapLines(const RecordingSurface &s)
+{
+    std::vector<Line> lines;
+    double left = 0, top = 0;
+    for (const std::string &c : s.calls()) {
+        std::istringstream in(c);
+        std::string head, kind;
+        in >> head;
+        if (head == "scaleOrigin") {
+            in >> left >> top;
+            continue;
+        }
+        in >> kind;
+        if (head == "#000080" && kind == "line") {
+            Line l;
+            in >> l.x1 >> l.y1 >> l.x2 >> l.y2;
+            // the empty rows up to `highest` draw lines of no length
+            if (l.x1 != l.x2 || l.y1 != l.y2)
+                lines.push_back({l.x1 - left, l.y1 - top, l.x2 - left, l.y2 - top});
+        }
+    }
+    return lines;
+}
+
+std::vector<std::string> containing(const RecordingSurface &s, const std::string &part)
+{
+    std::vector<std::string> out;
+    for (const std::string &c : s.calls())
+        if (c.find(part) != std::string::npos)
+            out.push_back(c);
+    return out;
+}
+
+} // namespace
+
+TEST(MapPrintout, BalancedGapClosesThePrintedFigure)
+{
+    for (const bool balance : {false, true}) {
+        Printout p(kOpenSquare);
+        PrintOptions options = p.engine.printOptions();
+        options.balanceGap = balance ? 1 : 0;
+        p.engine.setPrintOptions(options);
+        RecordingSurface page;
+        EXPECT_EQ(printMapPage(p.engine, page, kLetterPage), "");
+        const std::vector<Line> lines = mapLines(page);
+        ASSERT_EQ(lines.size(), 4u);
+        const double missX = lines.back().x2 - lines.front().x1, missY = lines.back().y2 - lines.front().y1;
+        if (balance) {
+            EXPECT_NEAR(missX, 0.0, 0.05);
+            EXPECT_NEAR(missY, 0.0, 0.05);
+        } else {
+            // 10 feet at the printed factor
+            EXPECT_NEAR(missX, 10.0 * p.engine.scaleFactor(), 0.05);
+        }
+    }
+}
+
+TEST(MapPrintout, CaptionTellsThePrintedScale)
+{
+    Printout p(kOpenSquare);
+    RecordingSurface page;
+    printMapPage(p.engine, page, kLetterPage);
+    const std::vector<std::string> captions = containing(page, "Scale = 1: ");
+    ASSERT_EQ(captions.size(), 1u);
+    ASSERT_NE(captions[0].find(" (Feet)"), std::string::npos) << captions[0];
+    const double n = std::stod(captions[0].substr(captions[0].find("1: ") + 3));
+    // 1 inch = n feet: a 100-foot side is 144000 / n twips long on paper.
+    const std::vector<Line> lines = mapLines(page);
+    const double side = std::fabs(lines[0].y2 - lines[0].y1);
+    EXPECT_NEAR(n, 144000.0 / side, 0.5 + n * 0.002);
+}
+
+TEST(MapPrintout, NumericScaleDrawsAtItsFactor)
+{
+    Printout p(kOpenSquare, "1000:1");
+    RecordingSurface page;
+    printMapPage(p.engine, page, kLetterPage);
+    EXPECT_EQ(containing(page, "Scale = 1:1000 (Feet)").size(), 1u);
+    EXPECT_FLOAT_EQ(p.engine.scaleFactor(), 1.44f);
+    // the printed figure stays centred in the map area
+    const std::vector<Line> lines = mapLines(page);
+    EXPECT_NEAR(std::fabs(lines[0].y2 - lines[0].y1), 144.0, 0.01);
+}
+
+TEST(MapPrintout, MapLandsInsideTheMarginsBelowTheCaption)
+{
+    for (const PageSize size : {kLetterPage, kA4Page}) {
+        for (const char *scale : {"Minimum", "Standard", "Maximum"}) {
+            Printout p(kOpenSquare, scale);
+            RecordingSurface probe;
+            MapPageText text;
+            text.description = text.referenceList = true;
+            text.heading = "Lot 7";
+            const MapPageLayout layout = planMapPage(probe, size, text);
+            RecordingSurface page;
+            printMapPage(p.engine, page, size);
+            for (const Line &l : mapLines(page)) {
+                for (double x : {l.x1, l.x2}) {
+                    EXPECT_GE(x, 360.0 - 0.01) << scale;
+                    EXPECT_LE(x, size.width - 360.0 + 0.01) << scale;
+                }
+                for (double y : {l.y1, l.y2}) {
+                    EXPECT_GE(y, layout.captionTop + 190.0) << scale;
+                    EXPECT_LE(y, layout.listTop) << scale;
+                }
+            }
+        }
+    }
+}
+
+TEST(MapPrintout, ReferenceLabelsFollowTheOption)
+{
+    for (const int16_t on : {int16_t(0), int16_t(1)}) {
+        Printout p(kOpenSquare);
+        PrintOptions options = p.engine.printOptions();
+        options.referencePoints = on;
+        p.engine.setPrintOptions(options);
+        RecordingSurface page;
+        printMapPage(p.engine, page, kLetterPage);
+        // the four legs' labels "1 " to "4 ", each left of its leg's start
+        EXPECT_EQ(containing(page, "#000080 text").size(), on ? 4u : 0u);
+    }
+}
+
+TEST(MapPrintout, CopiesRepeatThePageAndStateIsPutBack)
+{
+    Printout p(kOpenSquare);
+    PrintOptions options = p.engine.printOptions();
+    options.referenceList = 0;
+    p.engine.setPrintOptions(options);
+    RecordingSurface page;
+    page.setFont({"Times", 10.0f, true});
+    const float width = p.engine.canvasView().width;
+    printMapPage(p.engine, page, kLetterPage, 2);
+    EXPECT_EQ(std::count(page.calls().begin(), page.calls().end(), "newPage"), 1);
+    EXPECT_EQ(containing(page, "Scale = 1: ").size(), 2u);
+    EXPECT_EQ(containing(page, "text 360 1080 0 Lot ").size(), 2u);
+    // no list, so no units suffix
+    EXPECT_TRUE(containing(page, "(Feet)").empty());
+    EXPECT_EQ(page.calls().back(), "font Times 10 bold");
+    EXPECT_FLOAT_EQ(p.engine.canvasView().width, width);
+}
+
+TEST(MapPrintout, ReferenceListHasLabelsAndNewRows)
+{
+    Printout p({{"N", "", "", "", "", "100", "", "", "", ""},
+                {"", "", "", "", "", "", "", "", "", "N"},
+                {"E", "", "", "", "", "50", "", "", "", ""}});
+    const std::vector<std::string> expected{"1  N 100", "New", "2  E 50"};
+    EXPECT_EQ(referenceListEntries(p.engine), expected);
+}
+
+TEST(DataPrintout, FixedPitchListingEndsWithEndAndPutsTheFontBack)
+{
+    Printout p(kOpenSquare);
+    RecordingSurface page;
+    printDataPages(p.engine, page, kLetterPage);
+    const std::vector<std::string> &calls = page.calls();
+    EXPECT_EQ(calls.front(), "font Courier 12 plain");
+    EXPECT_EQ(calls.back(), "font Arial 8 plain");
+    EXPECT_NE(std::find_if(calls.begin(), calls.end(),
+                           [](const std::string &c) { return c.find(" 0 Lot 7") != std::string::npos; }),
+              calls.end());
+    EXPECT_EQ(calls[calls.size() - 2].substr(calls[calls.size() - 2].size() - 4), " end");
+}
+
+TEST(CopyMap, DrawsOnTheDoubledCanvasAndRestoresIt)
+{
+    Printout p(kOpenSquare);
+    const float factor = p.engine.scaleFactor();
+    const CanvasDraw draw = drawDoubleSize(p.engine);
+    EXPECT_FLOAT_EQ(draw.view.width, 14400.0f);
+    EXPECT_FLOAT_EQ(draw.view.height, 9600.0f);
+    EXPECT_EQ(draw.figure.items.size(), p.engine.figure().items.size());
+    EXPECT_FLOAT_EQ(p.engine.canvasView().width, 7200.0f);
+    EXPECT_FLOAT_EQ(p.engine.scaleFactor(), factor);
+}

@@ -1,0 +1,66 @@
+// The course descriptions of the clipboard and the reference list.
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+#include "course_description.h"
+
+using namespace quilmar;
+
+namespace {
+
+using Row = std::array<const char *, 10>;
+
+void setRow(CourseTable &table, int row, const Row &cells)
+{
+    for (int c = 0; c < 10; ++c)
+        table.at(row, c + 1) = Cell(std::string(cells[size_t(c)]));
+}
+
+} // namespace
+
+TEST(CourseDescription, EachCourseInWords)
+{
+    struct Case {
+        Row row;
+        const char *words;
+    };
+    const Case cases[] = {
+        {{"N", "45", "30", "15", "E", "100", "", "", "", ""}, "N 45\u00b0 30' 15\" E 100"},
+        {{"S", "10", "", "", "W", "250.5", "", "", "", ""}, "S 10\u00b0 W 250.5"},
+        {{"E", "", "", "", "", "500", "", "", "", ""}, "E 500"},
+        {{"+", "20", "", "", "", "400", "", "", "", ""}, "+ 20\u00b0 400"},
+        {{"N", "45", "", "", "W", "", "300", "500", "L", ""}, "N 45\u00b0 W, ch 300, r 500 L"},
+        {{"", "", "", "", "", "157.08", "", "100", "R", ""}, "157.08, r 100 R"},
+        {{" S ", " 5 ", "", "", " E ", " 10 ", "", "", "", ""}, "S 5\u00b0 E 10"},
+        {{"", "", "", "", "", "", "", "", "", "N"}, "New"},
+        {{"", "", "", "", "", "", "", "", "", "C"}, " Back to pob"},
+        {{"", "", "", "", "", "", "", "", "L", "C"}, " Back to pob"},
+        {{"N", "10", "", "", "E", "90", "", "", "", "C"}, "N 10\u00b0 E 90 Close"},
+        {{"", "", "", "", "", "", "", "50", "R", "C"}, ", r 50 R Close"},
+        {{"S", "", "", "", "", "1000", "", "", "", "B"}, "S 1000"},
+        {{"", "", "", "", "", "", "", "", "", ""}, ""},
+    };
+    for (const Case &c : cases) {
+        CourseTable table;
+        setRow(table, 3, c.row);
+        EXPECT_EQ(describeCourse(table, 3), c.words) << c.words;
+    }
+}
+
+TEST(CourseDescription, ClipboardTextJoinsUsedRowsWithCrLf)
+{
+    CourseTable table;
+    EXPECT_EQ(courseDescriptionText(table), "");
+    setRow(table, 0, {"N", "", "", "", "", "100", "", "", "", "B"});
+    setRow(table, 2, {"E", "", "", "", "", "50", "", "", "", ""});
+    setRow(table, 3, {"", "", "", "", "", "", "", "", "", "N"});
+    setRow(table, 4, {"", "", "", "", "", "", "", "", "", "C"});
+    table.gethighest();
+    EXPECT_EQ(courseDescriptionText(table), "N 100\r\nE 50\r\nNew\r\n Back to pob\r\n");
+    // A number stored by a conversion shows in its general form.
+    table.at(2, ColDistance) = Cell(328.1);
+    EXPECT_EQ(describeCourse(table, 2), "E 328.1");
+    EXPECT_EQ(describeCourse(table, 202), "");
+}
