@@ -8,6 +8,7 @@
 
 #include "map_printout.h"
 #include "recording_surface.h"
+#include "table_builder.h"
 
 using namespace quilmar;
 
@@ -23,7 +24,7 @@ public:
     std::vector<std::string> messages;
 };
 
-using Row = std::array<const char *, 10>;
+using test::Row;
 
 // N 100, E 100, S 100, W 90: a square that misses its start by 10 feet.
 struct Printout {
@@ -34,13 +35,7 @@ struct Printout {
         engine.metrix_Click(Units::Feet);
         engine.setScaleText(scale);
         engine.setDescription("Lot 7");
-        int r = 0;
-        for (const Row &row : rows) {
-            for (int c = 0; c < 10; ++c)
-                engine.editTable().at(r, c + 1) = Cell(std::string(row[size_t(c)]));
-            ++r;
-        }
-        engine.editTable().gethighest();
+        engine.editTable() = test::makeTable(rows);
         engine.redraw();
     }
 };

@@ -5,12 +5,13 @@
 #include <array>
 
 #include "course_description.h"
+#include "table_builder.h"
 
 using namespace quilmar;
 
 namespace {
 
-using Row = std::array<const char *, 10>;
+using test::Row;
 
 void setRow(CourseTable &table, int row, const Row &cells)
 {
@@ -51,13 +52,12 @@ TEST(CourseDescription, EachCourseInWords)
 
 TEST(CourseDescription, ClipboardTextJoinsUsedRowsWithCrLf)
 {
-    CourseTable table;
-    EXPECT_EQ(courseDescriptionText(table), "");
-    setRow(table, 0, {"N", "", "", "", "", "100", "", "", "", "B"});
-    setRow(table, 2, {"E", "", "", "", "", "50", "", "", "", ""});
-    setRow(table, 3, {"", "", "", "", "", "", "", "", "", "N"});
-    setRow(table, 4, {"", "", "", "", "", "", "", "", "", "C"});
-    table.gethighest();
+    EXPECT_EQ(courseDescriptionText(CourseTable{}), "");
+    CourseTable table = test::makeTable({{"N", "", "", "", "", "100", "", "", "", "B"},
+                                         {"", "", "", "", "", "", "", "", "", ""},
+                                         {"E", "", "", "", "", "50", "", "", "", ""},
+                                         {"", "", "", "", "", "", "", "", "", "N"},
+                                         {"", "", "", "", "", "", "", "", "", "C"}});
     EXPECT_EQ(courseDescriptionText(table), "N 100\r\nE 50\r\nNew\r\n Back to pob\r\n");
     // A number stored by a conversion shows in its general form.
     table.at(2, ColDistance) = Cell(328.1);
