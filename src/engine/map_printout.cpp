@@ -57,7 +57,7 @@ MapPageText pageText(Engine &engine)
 
 std::string printMapPage(Engine &engine, Surface &surface, PageSize page, int copies)
 {
-    const FontSpec saved = surface.font();
+    const TextFont saved = surface.font();
     const CanvasView canvas = engine.canvasView();
     std::string fault;
     try {
@@ -83,7 +83,7 @@ std::string printMapPage(Engine &engine, Surface &surface, PageSize page, int co
 
 void printDataPages(const Engine &engine, Surface &surface, PageSize page)
 {
-    const FontSpec saved = surface.font();
+    const TextFont saved = surface.font();
     surface.setFont(kDataFont);
     const std::vector<std::string> lines =
         dataListingLines(engine.table(), engine.description(), charsPerLine(surface, page));

@@ -133,7 +133,7 @@ std::vector<PlacedWord> wrapHeading(const Surface &surface, PageSize page, float
 
 MapPageLayout planMapPage(Surface &surface, PageSize page, const MapPageText &text)
 {
-    const FontSpec saved = surface.font();
+    const TextFont saved = surface.font();
     MapPageLayout layout;
     float arrowTip = kTextTop;
     if (text.description && !text.heading.empty()) {

@@ -44,8 +44,8 @@ inline constexpr PageSize kLetterPage{12240.0f - 2 * kUnprintableEdge, 15840.0f 
 inline constexpr PageSize kA4Page{11906.0f - 2 * kUnprintableEdge, 16838.0f - 2 * kUnprintableEdge};
 
 /// The fonts of the printout.
-inline const FontSpec kHeadingFont{"Arial", 12.0f, true};
-inline const FontSpec kCaptionFont{"Arial", 7.8f, false};
+inline const TextFont kHeadingFont{"Arial", 12.0f, true};
+inline const TextFont kCaptionFont{"Arial", 7.8f, false};
 
 /// Where the reference list may take the first page's room (twips).
 inline constexpr float kFirstPageListRoom = 4320.0f;

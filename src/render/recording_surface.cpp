@@ -79,7 +79,7 @@ void RecordingSurface::text(PointF at, int lineOffset, std::string_view utf8)
     m_calls.push_back(std::move(s));
 }
 
-void RecordingSurface::setFont(const FontSpec &font)
+void RecordingSurface::setFont(const TextFont &font)
 {
     m_font = font;
     m_calls.push_back("font " + font.name + floats({font.points}) + (font.bold ? " bold" : " plain"));

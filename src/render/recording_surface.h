@@ -37,7 +37,7 @@ public:
     /// Kept as "#rrggbb text x y lineOffset the text".
     void text(PointF at, int lineOffset, std::string_view utf8) override;
     float textHeight() const override { return m_textHeight * m_font.points / 8.0f; }
-    void setFont(const FontSpec &font) override;
+    void setFont(const TextFont &font) override;
     void newPage() override;
 
     const std::vector<std::string> &calls() const { return m_calls; }

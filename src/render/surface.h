@@ -16,11 +16,11 @@ namespace quilmar {
 
 /// A text font as a printer knows it: face name, size in points (1/72 inch,
 /// 20 twips), bold or not.
-struct FontSpec {
+struct TextFont {
     std::string name = "Arial";
     float points = 8.0f;
     bool bold = false;
-    bool operator==(const FontSpec &) const = default;
+    bool operator==(const TextFont &) const = default;
 };
 
 class Surface {
@@ -64,8 +64,8 @@ public:
 
     /// The font of later text() calls. A surface without fonts keeps its own and
     /// reports the last one set.
-    virtual FontSpec font() const { return m_font; }
-    virtual void setFont(const FontSpec &font) { m_font = font; }
+    virtual TextFont font() const { return m_font; }
+    virtual void setFont(const TextFont &font) { m_font = font; }
 
     /// Printed width of @p utf8 in the current font, in twips (0 for "").
     /// Without real metrics: half the font's size a character.
@@ -79,7 +79,7 @@ public:
     virtual void newPage() {}
 
 protected:
-    FontSpec m_font;
+    TextFont m_font;
 };
 
 } // namespace quilmar

@@ -13,7 +13,7 @@
 namespace quilmar {
 
 /// The data printout's font: fixed pitch, so that the columns line up.
-inline const FontSpec kDataFont{"Courier", 12.0f, false};
+inline const TextFont kDataFont{"Courier", 12.0f, false};
 
 /// How many characters of the current font's "M" fit across @p page between
 /// the margins; at least 1.

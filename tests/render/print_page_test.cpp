@@ -121,7 +121,7 @@ TEST(PrintPage, LayoutPutsTheMapBelowHeadingAndCaption)
     EXPECT_NEAR(layout.listTop, 15120 - 360 - 7 * 190.125, 0.01);
     EXPECT_NEAR(layout.mapArea.top + layout.mapArea.height, layout.listTop - 360, 0.01);
     // the font is put back
-    EXPECT_EQ(s.font(), FontSpec{});
+    EXPECT_EQ(s.font(), TextFont{});
 
     // Without heading and list the arrow's tip is at the text origin and the
     // map reaches the bottom margin.

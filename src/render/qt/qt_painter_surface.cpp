@@ -35,7 +35,7 @@ QtPainterSurface::QtPainterSurface(QPainter &painter, const DeviceMapping &mappi
 {
     // The classic 8-point dialog font; DejaVu Sans is what Debian ships, any
     // other sans face serves where it is missing.
-    m_font = FontSpec{"DejaVu Sans", float(kTextPoints), false};
+    m_font = TextFont{"DejaVu Sans", float(kTextPoints), false};
     if (m_painter.isActive()) {
         const int type = m_painter.device()->devType();
         m_painter.setRenderHint(QPainter::Antialiasing, type == QInternal::Image || type == QInternal::Pixmap);
@@ -45,7 +45,7 @@ QtPainterSurface::QtPainterSurface(QPainter &painter, const DeviceMapping &mappi
     applyFont();
 }
 
-void QtPainterSurface::setFont(const FontSpec &font)
+void QtPainterSurface::setFont(const TextFont &font)
 {
     m_font = font;
     applyFont();

@@ -65,7 +65,7 @@ public:
     float textHeight() const override;
     /// "Arial" and "Courier" fall back to the metric-compatible Liberation faces
     /// and then to DejaVu where the named face is missing; "Courier" is fixed pitch.
-    void setFont(const FontSpec &font) override;
+    void setFont(const TextFont &font) override;
     float textWidth(std::string_view utf8) const override;
     void newPage() override;
 
