@@ -62,17 +62,6 @@ const std::string kEmpty;
 
 } // namespace
 
-std::string cellText(const Cell &cell)
-{
-    if (!cell.isNumber())
-        return cell.text();
-    try {
-        return generalNumber(cell.number());
-    } catch (const VbError &) {
-        return {};
-    }
-}
-
 GridRules::GridRules(CourseTable &table, Dialogs &dialogs, std::function<void()> mindraw)
     : m_table(table), m_dialogs(dialogs), m_mindraw(std::move(mindraw))
 {

@@ -23,6 +23,7 @@
 #include <string>
 #include <string_view>
 
+#include "course_description.h" // cellText: a cell as the grid and the listings show it
 #include "course_table.h"
 #include "dialogs.h"
 
@@ -142,8 +143,5 @@ private:
     std::string m_valueOnEntry;
     std::string m_valueOnLeaving;
 };
-
-/// The text a table cell shows in the grid (a number cell in general form).
-std::string cellText(const Cell &cell);
 
 } // namespace quilmar
