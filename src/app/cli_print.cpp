@@ -6,6 +6,7 @@
 
 #include "map_printout.h"
 #include "paged_output.h"
+#include "settings_file.h"
 #include "recording_prompter.h"
 
 namespace quilmar {
@@ -53,19 +54,27 @@ std::string parsePrintOptionList(const std::string &list, PrintOptions &options)
 int runPrintToPdf(const PrintFlags &flags, const MapCommandOptions &map, CommandIo &io)
 {
     std::string &err = io.err;
-    StartupSettings settings;
-    if (flags.options) {
-        if (std::string problem = parsePrintOptionList(*flags.options, settings.printOptions); !problem.empty()) {
-            err += "quilmar plot: " + problem + "\n";
-            return 2;
-        }
-    }
     std::unique_ptr<QGuiApplication> app;
     if (!QGuiApplication::instance()) {
         static int argc = 1;
         static char name[] = "quilmar";
         static char *argv[] = {name, nullptr};
         app = std::make_unique<QGuiApplication>(argc, argv);
+    }
+    // The window's settings file beside the program gives the scale bases and
+    // the print options (defaults without one); --options overrides the latter.
+    const SettingsValues ini =
+        readSettings((QCoreApplication::applicationDirPath() + QStringLiteral("/quilmar.ini")).toStdString());
+    StartupSettings settings;
+    settings.scaleEnglish = ini.scaleEnglish;
+    settings.scaleMetric = ini.scaleMetric;
+    settings.printOptions = {ini.printOptions[0], ini.printOptions[1], ini.printOptions[2], ini.printOptions[3],
+                             ini.printOptions[4]};
+    if (flags.options) {
+        if (std::string problem = parsePrintOptionList(*flags.options, settings.printOptions); !problem.empty()) {
+            err += "quilmar plot: " + problem + "\n";
+            return 2;
+        }
     }
     RecordingPrompter prompter;
     Engine engine(prompter, settings);
