@@ -1,0 +1,192 @@
+#include "vocabulary.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace quilmar::deedtext {
+
+namespace {
+
+constexpr double kVara = 2.7777778;
+constexpr double kMetre = 3.281;
+
+struct UnitRow {
+    std::string_view word;
+    UnitInfo info;
+};
+
+// Every spelling of every unit, with its factor to feet. Abbreviations that are
+// also ordinary words ("in", "p", "r") are left out on purpose.
+constexpr UnitRow kUnits[] = {
+    {"feet", {"foot", 1.0}}, {"foot", {"foot", 1.0}}, {"ft", {"foot", 1.0}}, {"fts", {"foot", 1.0}},
+    {"inch", {"inch", 1.0 / 12.0}}, {"inches", {"inch", 1.0 / 12.0}}, {"ins", {"inch", 1.0 / 12.0}},
+    {"chain", {"chain", 66.0}}, {"chains", {"chain", 66.0}}, {"ch", {"chain", 66.0}}, {"chs", {"chain", 66.0}},
+    {"chns", {"chain", 66.0}}, {"cha", {"chain", 66.0}},
+    {"link", {"link", 0.66}}, {"links", {"link", 0.66}}, {"lk", {"link", 0.66}}, {"lks", {"link", 0.66}},
+    {"li", {"link", 0.66}},
+    {"pole", {"pole", 16.5}}, {"poles", {"pole", 16.5}}, {"po", {"pole", 16.5}}, {"pls", {"pole", 16.5}},
+    {"rod", {"rod", 16.5}}, {"rods", {"rod", 16.5}}, {"rds", {"rod", 16.5}}, {"rd", {"rod", 16.5}},
+    {"perch", {"perch", 16.5}}, {"perches", {"perch", 16.5}}, {"per", {"perch", 16.5}}, {"prs", {"perch", 16.5}},
+    {"vara", {"vara", kVara}}, {"varas", {"vara", kVara}}, {"vrs", {"vara", kVara}}, {"vs", {"vara", kVara}},
+    {"metre", {"metre", kMetre, true}}, {"metres", {"metre", kMetre, true}}, {"meter", {"metre", kMetre, true}},
+    {"meters", {"metre", kMetre, true}}, {"m", {"metre", kMetre, true}}, {"mtrs", {"metre", kMetre, true}},
+    {"mts", {"metre", kMetre, true}},
+    {"yard", {"yard", 3.0}}, {"yards", {"yard", 3.0}}, {"yd", {"yard", 3.0}}, {"yds", {"yard", 3.0}},
+    // Units the program has no factor for: read, named, and flagged.
+    {"arpent", {"arpent", 0, false, false}}, {"arpents", {"arpent", 0, false, false}},
+    {"ell", {"ell", 0, false, false}}, {"ells", {"ell", 0, false, false}},
+    {"league", {"league", 0, false, false}}, {"leagues", {"league", 0, false, false}},
+    {"furlong", {"furlong", 0, false, false}}, {"furlongs", {"furlong", 0, false, false}},
+    {"toise", {"toise", 0, false, false}}, {"toises", {"toise", 0, false, false}},
+    {"mile", {"mile", 0, false, false}}, {"miles", {"mile", 0, false, false}},
+    {"cordel", {"cordel", 0, false, false}}, {"cordeles", {"cordel", 0, false, false}},
+    {"pace", {"pace", 0, false, false}}, {"paces", {"pace", 0, false, false}},
+    {"fathom", {"fathom", 0, false, false}}, {"fathoms", {"fathom", 0, false, false}},
+    {"kilometre", {"kilometre", 0, false, false}}, {"kilometres", {"kilometre", 0, false, false}},
+    {"kilometer", {"kilometre", 0, false, false}}, {"kilometers", {"kilometre", 0, false, false}},
+    {"km", {"kilometre", 0, false, false}}, {"cm", {"centimetre", 0, false, false}},
+};
+
+constexpr std::pair<std::string_view, int> kNumberWords[] = {
+    {"zero", 0}, {"one", 1}, {"two", 2}, {"three", 3}, {"four", 4}, {"five", 5}, {"six", 6},
+    {"seven", 7}, {"eight", 8}, {"nine", 9}, {"ten", 10}, {"eleven", 11}, {"twelve", 12},
+    {"thirteen", 13}, {"fourteen", 14}, {"fifteen", 15}, {"sixteen", 16}, {"seventeen", 17},
+    {"eighteen", 18}, {"nineteen", 19}, {"twenty", 20}, {"thirty", 30}, {"forty", 40},
+    {"fourty", 40}, {"fifty", 50}, {"sixty", 60}, {"seventy", 70}, {"eighty", 80}, {"ninety", 90},
+    {"hundred", 100}, {"thousand", 1000},
+};
+
+constexpr std::pair<std::string_view, int> kFractionWords[] = {
+    {"half", 2}, {"halves", 2}, {"third", 3}, {"thirds", 3}, {"quarter", 4}, {"quarters", 4},
+    {"fourth", 4}, {"fourths", 4}, {"eighth", 8}, {"eighths", 8}, {"tenth", 10}, {"tenths", 10},
+    {"hundredth", 100}, {"hundredths", 100},
+};
+
+// Scanner and typing slips whose meaning is certain.
+constexpr std::pair<std::string_view, std::string_view> kRepairs[] = {
+    {"chams", "chains"}, {"chaíns", "chains"}, {"cbains", "chains"}, {"ehains", "chains"},
+    {"chalns", "chains"}, {"chians", "chains"}, {"chans", "chains"}, {"cliains", "chains"},
+    {"hnks", "links"}, {"liuks", "links"}, {"linlts", "links"}, {"lınks", "links"}, {"lirks", "links"},
+    {"iinks", "links"}, {"poies", "poles"}, {"polcs", "poles"}, {"pules", "poles"}, {"poleS", "poles"},
+    {"perchcs", "perches"}, {"fect", "feet"}, {"fcet", "feet"}, {"feel", "feet"}, {"teet", "feet"},
+    {"fet", "feet"}, {"feeet", "feet"}, {"ieet", "feet"},
+    {"thenee", "thence"}, {"tbence", "thence"}, {"tlience", "thence"}, {"thencc", "thence"},
+    {"thenc", "thence"}, {"thense", "thence"}, {"thcnce", "thence"}, {"theuce", "thence"},
+    {"thenec", "thence"}, {"hence", "thence"}, {"tence", "thence"}, {"thnce", "thence"},
+    {"degs", "degrees"}, {"degress", "degrees"}, {"dcgrees", "degrees"}, {"degreees", "degrees"},
+    {"minues", "minutes"}, {"mintues", "minutes"}, {"minuets", "minutes"}, {"rninutes", "minutes"},
+    {"secs", "seconds"}, {"seconos", "seconds"},
+    {"begining", "beginning"}, {"beginnig", "beginning"}, {"bcginning", "beginning"},
+    {"beginuing", "beginning"}, {"commencng", "commencing"},
+    {"nortb", "north"}, {"soutb", "south"}, {"nortli", "north"}, {"soutli", "south"}, {"wcst", "west"},
+    {"radlus", "radius"}, {"raduis", "radius"}, {"chrod", "chord"},
+};
+
+constexpr std::string_view kApproximate[] = {
+    "northerly", "southerly", "easterly", "westerly", "northeasterly", "northwesterly",
+    "southeasterly", "southwesterly", "northwardly", "southwardly", "eastwardly", "westwardly",
+    "northeastwardly", "northwestwardly", "southeastwardly", "southwestwardly", "northward",
+    "southward", "eastward", "westward", "northwards", "southwards", "eastwards", "westwards",
+    "northeastward", "northwestward", "southeastward", "southwestward",
+};
+
+constexpr std::string_view kSideNouns[] = {
+    "line", "lines", "side", "sides", "boundary", "boundaries", "bank", "banks", "edge", "corner",
+    "corners", "end", "half", "quarter", "margin", "face", "wall", "fork", "branch", "part",
+    "portion", "right", "row", "carolina", "dakota", "virginia", "street", "st", "avenue", "ave",
+    "road", "rd", "main", "lot", "lots", "most", "extremity", "terminus", "fence", "of", "one",
+    "fraction", "tract", "addition", "boulevard", "blvd", "lane", "drive", "highway", "township",
+    "range", "section", "face", "curb", "gutter", "shore", "water", "abutment", "point", "ridge",
+    "prong", "bound", "limits", "limit", "ditch", "wing", "direction", "dimension", "feet",
+};
+
+constexpr std::string_view kLabelWords[] = {
+    "section", "sec", "sections", "township", "twp", "range", "rng", "lot", "lots", "block", "blk",
+    "book", "bk", "page", "pages", "pg", "pgs", "volume", "vol", "tract", "parcel", "no", "nos",
+    "number", "#", "instrument", "inst", "document", "doc", "unit", "phase", "plat", "map", "sheet",
+    "chapter", "cabinet", "slide", "film", "reel", "route", "highway", "hwy", "deed", "folio", "liber",
+    "survey", "abstract", "grant", "patent", "year", "dated", "district", "precinct", "ward", "square",
+    "sq", "sr", "us", "interstate", "article", "item", "exhibit", "schedule", "series", "docket",
+    "file", "drawer", "folder", "reception", "entry", "claim", "ordinance", "code", "subdivision",
+    "tax", "parcels", "pin", "apn", "id", "case", "order", "resolution", "am", "pm", "course",
+};
+
+// After any length: the length is a width or a depth, not a course.
+constexpr std::string_view kWidthNouns[] = {
+    "wide", "width", "strip", "road", "street", "alley", "easement", "setback", "drive", "lane",
+    "highway", "avenue", "way", "right", "row", "square", "high", "deep", "thick", "tall", "x", "by",
+    "buffer", "utility", "drainage", "access", "ingress", "sidewalk", "walk", "private", "public",
+    "county", "state", "frontage", "front", "rear", "depth",
+};
+
+// After inches: the length is the size of a marker.
+constexpr std::string_view kMarkerNouns[] = {
+    "pipe", "pin", "rod", "rebar", "bar", "iron", "bolt", "spike", "nail", "cap", "capped", "steel",
+    "galvanized", "diameter", "dia", "od", "concrete", "stone", "marker", "monument", "crimped",
+    "open", "solid", "ip", "ir", "ipf", "irf", "pvc", "post", "reinforcing", "angle", "hub", "drill",
+    "copper", "aluminum", "brass", "disk", "disc", "tack", "round", "pinched", "square",
+};
+
+constexpr std::string_view kCallCut[] = {
+    "whence", "witness", "witnessed", "witnesses", "containing", "contains", "contain",
+    "record", "rec", "recorded", "variation", "declination", "magnetic", "formerly",
+};
+
+constexpr std::string_view kAreaWords[] = {
+    "acre", "acres", "ac", "hectare", "hectares", "ha", "square", "sq", "sqft", "arpent2",
+};
+
+template <typename Table>
+bool contains(const Table &table, std::string_view word)
+{
+    return std::find(std::begin(table), std::end(table), word) != std::end(table);
+}
+
+} // namespace
+
+std::optional<UnitInfo> unitNamed(std::string_view word)
+{
+    for (const auto &row : kUnits)
+        if (row.word == word)
+            return row.info;
+    return std::nullopt;
+}
+
+UnitInfo feetUnit() { return {"foot", 1.0}; }
+UnitInfo inchUnit() { return {"inch", 1.0 / 12.0}; }
+
+int numberWordValue(std::string_view word)
+{
+    for (const auto &[w, v] : kNumberWords)
+        if (w == word)
+            return v;
+    return -1;
+}
+
+int fractionWordDenominator(std::string_view word)
+{
+    for (const auto &[w, d] : kFractionWords)
+        if (w == word)
+            return d;
+    return 0;
+}
+
+std::string_view repairedWord(std::string_view word)
+{
+    for (const auto &[bad, good] : kRepairs)
+        if (bad == word)
+            return good;
+    return word;
+}
+
+bool isThenceWord(std::string_view word) { return word == "thence" || word == "then" || word == "thenc"; }
+bool isApproximateDirection(std::string_view word) { return contains(kApproximate, word); }
+bool isSideNoun(std::string_view word) { return contains(kSideNouns, word); }
+bool isLabelWord(std::string_view word) { return contains(kLabelWords, word); }
+bool isWidthNoun(std::string_view word) { return contains(kWidthNouns, word); }
+bool isMarkerNoun(std::string_view word) { return contains(kMarkerNouns, word); }
+bool isCallCutWord(std::string_view word) { return contains(kCallCut, word); }
+bool isAreaWord(std::string_view word) { return contains(kAreaWords, word); }
+
+} // namespace quilmar::deedtext
