@@ -163,19 +163,21 @@ void CallReader::setAside()
     // magnetic note is not part of the course.
     for (size_t i = m_begin; i < m_end; ++i) {
         const std::string_view w = word(i);
-        if (w.empty())
+        if (w.empty() || !m_active[i - m_begin])
             continue;
         bool cut = false, witness = false;
         if ((w == "from" && (word(i + 1) == "which" || word(i + 1) == "whence")) || w == "whence" || w == "witness"
             || w == "witnessed" || w == "witnesses") {
             cut = witness = true;
-        } else if (w == "bears" || w == "bore" || w == "bearing") {
+        } else if (w == "bears" || w == "bore" || w == "bearing" || w == "brs" || w == "bs") {
             const bool keyed = wordBefore(i, {"chord", "radius", "radial", "center", "centre", "line", "course",
                                               "tangent", "which", "a", "on", "of", "with", "the", "cb", "its"},
                                           6);
             if (!keyed) {
                 cut = true;
                 witness = w != "bearing";
+            if (w == "brs" || w == "bs")
+                cut = witness = true;
             }
             if (w == "bearing" && !keyed)
                 cut = false;
@@ -224,6 +226,13 @@ void CallReader::markLabels()
             label = true;
         // "12 x 10 x 8": the size of a stone.
         if (next == "x" || word(prevWordIndex(i)) == "x" || next == "by")
+            label = true;
+        // "said lot 33 feet": a number with a unit is a length after all.
+        if (label && p + 1 == i && (unitNamed(next) || isKind(i + 1, TokKind::Minute)) && !isAreaWord(next))
+            label = false;
+        // "1." or "2)" at the start of a line numbers a list of calls.
+        if (m_t[i].lineStart && (isKind(i + 1, TokKind::Period) || isKind(i + 1, TokKind::RParen))
+            && !isKind(i + 2, TokKind::Number))
             label = true;
         if (label)
             m_active[i - m_begin] = false;
@@ -312,7 +321,7 @@ std::optional<CallReader::Angle> CallReader::readAngle(size_t i, bool allowBareT
             break;
         if (marked) {
             ++m;
-            if (isKind(m, TokKind::Period) && !isKind(m + 1, TokKind::Number))
+            if (isKind(m, TokKind::Period) && (m_t[m].span.begin == m_t[m - 1].span.end || !isKind(m + 1, TokKind::Number)))
                 ++m; // "deg.", "min."
             if (isKind(m, TokKind::Lost)) {
                 a.lost = true;
@@ -455,7 +464,7 @@ std::optional<CallReader::Found> CallReader::directionAt(size_t i)
         if (isKind(n, TokKind::Number) && readAngle(n, false))
             return std::nullopt; // "NE 1/4" and the like
         f.direction.ns = (w[0] == 'n') ? 'N' : 'S';
-        f.direction.ew = (w.back() == 'e' || w.substr(w.size() - 4) == "east") ? 'E' : 'W';
+        f.direction.ew = (w.back() == 'e' || w.ends_with("east")) ? 'E' : 'W';
         f.direction.hasAngle = true;
         f.direction.degrees = 45;
         f.end = i + 1;
@@ -581,8 +590,8 @@ std::optional<CallReader::FoundLength> CallReader::lengthAt(size_t i, bool allow
         haveUnit = true;
         ++parts;
         k = u + 1;
-        if (isKind(k, TokKind::Period) && !isKind(k + 1, TokKind::Number))
-            ++k;
+        if (isKind(k, TokKind::Period) && (m_t[k].span.begin == m_t[u].span.end || !isKind(k + 1, TokKind::Number)))
+            ++k; // "ch.", "ft."
         f.end = k;
         // "10 poles and 3 feet", "12 ch. 25 lks", "25' 6\""
         size_t n2 = k;
@@ -652,6 +661,7 @@ Call CallReader::read()
     // Where does the call end? At the point of beginning, unless a witness
     // tree only says where that point lies.
     const size_t closeEnd = m_witnessCut == std::string::npos ? m_end : m_witnessCut;
+    size_t closedAt = 0;
     for (size_t i = m_begin; i < closeEnd; ++i) {
         const std::string_view w = word(i);
         if (w.empty())
@@ -682,6 +692,14 @@ Call CallReader::read()
             call.closes = true;
         if (w == "beginning" && (word(i + 1) == "corner" || word(i + 1) == "point"))
             call.closes = true;
+        if ((w == "station" || w == "corner") && prevWord(i) == "first" && wordBefore(i, {"the"}, 2))
+            call.closes = true;
+        // "Courses from POB:", "from said point of beginning": where a list starts, not where it ends.
+        if (call.closes && !closedAt && wordBefore(i, {"from"}, 5)) {
+            call.closes = call.truePoint = false;
+        }
+        if (call.closes && !closedAt)
+            closedAt = i;
         if (w == "starting" && word(i + 1) == "point")
             call.closes = true;
     }
@@ -1071,6 +1089,45 @@ Call readCall(const std::vector<Token> &tokens, std::size_t begin, std::size_t e
     if (begin >= end || end > tokens.size())
         return {};
     return CallReader(tokens, begin, end, context).read();
+}
+
+std::vector<std::pair<std::size_t, std::size_t>> splitCourses(const std::vector<Token> &t, std::size_t begin,
+                                                               std::size_t end)
+{
+    std::vector<std::pair<std::size_t, std::size_t>> out;
+    size_t start = begin;
+    int depth = 0;
+    bool sawLength = false;
+    auto wordAt = [&](size_t k) -> std::string_view {
+        return k < end && t[k].kind == TokKind::Word ? std::string_view(t[k].word) : std::string_view();
+    };
+    for (size_t i = begin; i < end; ++i) {
+        const std::string_view w = wordAt(i);
+        if (w == "curve" || w == "arc" || w == "radius" || w == "from" || w == "whence" || w == "bears"
+            || w == "brs" || w == "witness" || w == "bore")
+            break; // a curve's bearings are its chord's; after a witness tree nothing is a course
+        if (t[i].kind == TokKind::LParen)
+            ++depth;
+        else if (t[i].kind == TokKind::RParen)
+            depth = depth > 0 ? depth - 1 : 0;
+        if (depth > 0)
+            continue;
+        if (t[i].kind == TokKind::Number && i + 1 < end
+            && (t[i + 1].kind == TokKind::Minute || (unitNamed(wordAt(i + 1)) && unitNamed(wordAt(i + 1))->known)))
+            sawLength = true;
+        if (sawLength && (w == "n" || w == "s" || w == "north" || w == "south")) {
+            size_t k = i + 1;
+            while (k < end && (t[k].kind == TokKind::Period || t[k].kind == TokKind::Comma))
+                ++k;
+            if (k < end && t[k].kind == TokKind::Number) {
+                out.emplace_back(start, i);
+                start = i;
+                sawLength = false;
+            }
+        }
+    }
+    out.emplace_back(start, end);
+    return out;
 }
 
 bool isClauseStart(const std::vector<Token> &t, std::size_t i, bool &commence)

@@ -68,6 +68,11 @@ struct CallContext {
 /// Reads the call in tokens [@p begin, @p end) of @p tokens.
 Call readCall(const std::vector<Token> &tokens, std::size_t begin, std::size_t end, const CallContext &context);
 
+/// Cuts a clause that holds several courses ("N 35 E 4.10 chains and N 10 E
+/// 6.25 chains") into one token range per course. A curve's clause is not cut.
+std::vector<std::pair<std::size_t, std::size_t>> splitCourses(const std::vector<Token> &tokens, std::size_t begin,
+                                                               std::size_t end);
+
 /// Whether the words at @p i say "beginning", "begin" or "commencing" as the
 /// start of a clause ("BEGINNING at", "Commence at"), not as part of "point of
 /// beginning" or "beginning of a curve". @p commence is set for "commencing".

@@ -287,44 +287,48 @@ DeedImport parseDeedText(std::string_view text)
         }
         if (mode == Mode::Idle)
             continue;
-        const Call call = readCall(t, c.begin, c.end, context);
-        for (const auto &w : call.warnings)
-            b.flags.push_back({call.span, w, Severity::Warning});
-        const bool flagged = !call.problems.empty();
-        if (flagged)
-            b.flags.push_back({call.span, call.problems.front(), Severity::Flag});
-        const bool course = !flagged && (call.distance.has_value() || (call.curve && (call.chord || call.radius)));
-        if (!flagged && !course && !call.closes && !call.holdsCourse())
-            continue; // a clause without a course: "thence with the road"
-        if (course) {
-            addRow(call);
-            if (mode == Mode::Commence)
-                ++tieRows;
-        }
-        if (!call.curve && call.direction && course)
-            context.previous = call.direction;
-        else if (call.curve)
-            context.previous.reset();
-        context.pendingRadius = call.nextRadius;
-        context.pendingSide = call.nextSide;
-        if (call.closes) {
-            if (mode == Mode::Commence || (call.truePoint && mode == Mode::Body && !b.tagInFigure)) {
-                if (b.needNew) {
-                    addTag('N', call.span);
-                    b.needNew = false;
+        for (const auto &[from, to] : splitCourses(t, c.begin, c.end)) {
+            if (mode == Mode::Idle)
+                break;
+            const Call call = readCall(t, from, to, context);
+            for (const auto &w : call.warnings)
+                b.flags.push_back({call.span, w, Severity::Warning});
+            const bool flagged = !call.problems.empty();
+            if (flagged)
+                b.flags.push_back({call.span, call.problems.front(), Severity::Flag});
+            const bool course = !flagged && (call.distance.has_value() || (call.curve && (call.chord || call.radius)));
+            if (!flagged && !course && !call.closes && !call.holdsCourse())
+                continue; // a clause without a course: "thence with the road"
+            if (course) {
+                addRow(call);
+                if (mode == Mode::Commence)
+                    ++tieRows;
+            }
+            if (!call.curve && call.direction && course)
+                context.previous = call.direction;
+            else if (call.curve)
+                context.previous.reset();
+            context.pendingRadius = call.nextRadius;
+            context.pendingSide = call.nextSide;
+            if (call.closes) {
+                if (mode == Mode::Commence || (call.truePoint && mode == Mode::Body && !b.tagInFigure)) {
+                    if (b.needNew) {
+                        addTag('N', call.span);
+                        b.needNew = false;
+                    }
+                    addTag('B', call.span);
+                    ++b.figureRows;
+                    b.tagInFigure = true;
+                    mode = Mode::Body;
+                } else {
+                    if (b.needNew) {
+                        addTag('N', call.span);
+                        b.needNew = false;
+                    }
+                    addTag('C', call.span);
+                    ++b.figureRows;
+                    mode = Mode::Idle;
                 }
-                addTag('B', call.span);
-                ++b.figureRows;
-                b.tagInFigure = true;
-                mode = Mode::Body;
-            } else {
-                if (b.needNew) {
-                    addTag('N', call.span);
-                    b.needNew = false;
-                }
-                addTag('C', call.span);
-                ++b.figureRows;
-                mode = Mode::Idle;
             }
         }
     }
@@ -421,13 +425,16 @@ std::string quoteSpan(std::string_view text, Span span, std::size_t maxChars)
             continue;
         }
         if (blank) {
+            if (chars >= maxChars) {
+                out += "...";
+                return out;
+            }
             out += ' ';
             ++chars;
             blank = false;
         }
         if ((static_cast<unsigned char>(c) & 0xC0) != 0x80) {
             if (chars >= maxChars) {
-                // back off to a whole character boundary already ensured
                 out += "...";
                 return out;
             }

@@ -265,6 +265,10 @@ private:
             return;
         }
         m_glue = false;
+        // "TH." is thence, except as the ending of an ordinal ("5th").
+        const bool ordinal = !m_out.empty() && m_out.back().kind == TokKind::Number && m_out.back().span.end == begin;
+        if ((w == "th" || w == "thce" || w == "thc") && !ordinal)
+            w = "thence";
         push(TokKind::Word, begin, m_i);
         m_out.back().word = std::string(repairedWord(w));
     }
