@@ -62,7 +62,7 @@ double vulgarFraction(uint32_t cp)
 
 class Lexer {
 public:
-    explicit Lexer(std::string_view text) : m_s(text) {}
+    explicit Lexer(std::string_view text) : m_s(text) { m_out.reserve(text.size() / 4 + 16); }
 
     std::vector<Token> run()
     {
@@ -283,11 +283,33 @@ private:
 
 bool adjacent(const Token &a, const Token &b) { return a.span.end == b.span.begin; }
 
+/// Writes tokens back into the vector they are read from, behind the reader.
+class TokenWriter {
+public:
+    explicit TokenWriter(std::vector<Token> &t) : m_t(t) {}
+    void push_back(Token &&token)
+    {
+        if (&m_t[m_n] != &token)
+            m_t[m_n] = std::move(token);
+        ++m_n;
+    }
+    bool empty() const { return m_n == 0; }
+    size_t size() const { return m_n; }
+    Token &back() { return m_t[m_n - 1]; }
+    Token &operator[](size_t i) { return m_t[i]; }
+    void pop_back() { --m_n; }
+    void finish() { m_t.resize(m_n); }
+
+private:
+    std::vector<Token> &m_t;
+    size_t m_n = 0;
+};
+
 // "P.O.B.", "T.P.O.B.", "N.E." written as single letters with points: one word.
 void joinInitials(std::vector<Token> &t)
 {
-    std::vector<Token> out;
-    out.reserve(t.size());
+    // Compacted in place: the write position never passes the read position.
+    TokenWriter out(t);
     for (size_t i = 0; i < t.size();) {
         if (t[i].kind == TokKind::Word && t[i].word.size() == 1) {
             std::string w = t[i].word;
@@ -316,7 +338,7 @@ void joinInitials(std::vector<Token> &t)
         out.push_back(std::move(t[i]));
         ++i;
     }
-    t = std::move(out);
+    out.finish();
 }
 
 bool isNumberWord(const Token &t) { return t.kind == TokKind::Word && numberWordValue(t.word) >= 0; }
@@ -350,8 +372,8 @@ double fractionWords(const std::vector<Token> &t, size_t i, size_t &next)
 // "six and one half", "sixty-two and 50/100".
 void joinNumberWords(std::vector<Token> &t)
 {
-    std::vector<Token> out;
-    out.reserve(t.size());
+    // Compacted in place: the write position never passes the read position.
+    TokenWriter out(t);
     for (size_t i = 0; i < t.size();) {
         size_t fracNext = 0;
         if (!isNumberWord(t[i])) {
@@ -432,7 +454,7 @@ void joinNumberWords(std::vector<Token> &t)
         out.push_back(std::move(n));
         i = j;
     }
-    t = std::move(out);
+    out.finish();
 }
 
 // "60 1/4", "45-1/2", "62 and 1/2": a whole number and a fraction after it.
@@ -440,8 +462,8 @@ void joinNumberWords(std::vector<Token> &t)
 // number, marked when the two disagree.
 void joinMixedNumbers(std::vector<Token> &t)
 {
-    std::vector<Token> out;
-    out.reserve(t.size());
+    // Compacted in place: the write position never passes the read position.
+    TokenWriter out(t);
     for (size_t i = 0; i < t.size(); ++i) {
         if (!out.empty() && t[i].kind == TokKind::Number && t[i].fraction) {
             Token &prev = out.back();
@@ -473,7 +495,7 @@ void joinMixedNumbers(std::vector<Token> &t)
         }
         out.push_back(std::move(t[i]));
     }
-    t = std::move(out);
+    out.finish();
 }
 
 } // namespace

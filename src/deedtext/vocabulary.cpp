@@ -1,7 +1,8 @@
 #include "vocabulary.h"
 
-#include <algorithm>
 #include <array>
+#include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 namespace quilmar::deedtext {
@@ -137,20 +138,34 @@ constexpr std::string_view kAreaWords[] = {
     "acre", "acres", "ac", "hectare", "hectares", "ha", "square", "sq", "sqft", "arpent2",
 };
 
+// The tables are looked up once per word of every call: hashed on first use.
+using WordSet = std::unordered_set<std::string_view>;
 template <typename Table>
-bool contains(const Table &table, std::string_view word)
+WordSet setOf(const Table &table)
 {
-    return std::find(std::begin(table), std::end(table), word) != std::end(table);
+    return WordSet(std::begin(table), std::end(table));
+}
+template <typename Table>
+auto mapOf(const Table &table)
+{
+    std::unordered_map<std::string_view, decltype(std::begin(table)->second)> m;
+    for (const auto &row : table)
+        m.emplace(row.first, row.second);
+    return m;
 }
 
 } // namespace
 
 std::optional<UnitInfo> unitNamed(std::string_view word)
 {
-    for (const auto &row : kUnits)
-        if (row.word == word)
-            return row.info;
-    return std::nullopt;
+    static const auto units = [] {
+        std::unordered_map<std::string_view, UnitInfo> m;
+        for (const auto &row : kUnits)
+            m.emplace(row.word, row.info);
+        return m;
+    }();
+    const auto it = units.find(word);
+    return it == units.end() ? std::nullopt : std::optional<UnitInfo>(it->second);
 }
 
 UnitInfo feetUnit() { return {"foot", 1.0}; }
@@ -158,35 +173,60 @@ UnitInfo inchUnit() { return {"inch", 1.0 / 12.0}; }
 
 int numberWordValue(std::string_view word)
 {
-    for (const auto &[w, v] : kNumberWords)
-        if (w == word)
-            return v;
-    return -1;
+    static const auto words = mapOf(kNumberWords);
+    const auto it = words.find(word);
+    return it == words.end() ? -1 : it->second;
 }
 
 int fractionWordDenominator(std::string_view word)
 {
-    for (const auto &[w, d] : kFractionWords)
-        if (w == word)
-            return d;
-    return 0;
+    static const auto words = mapOf(kFractionWords);
+    const auto it = words.find(word);
+    return it == words.end() ? 0 : it->second;
 }
 
 std::string_view repairedWord(std::string_view word)
 {
-    for (const auto &[bad, good] : kRepairs)
-        if (bad == word)
-            return good;
-    return word;
+    static const auto repairs = mapOf(kRepairs);
+    const auto it = repairs.find(word);
+    return it == repairs.end() ? word : it->second;
 }
 
 bool isThenceWord(std::string_view word) { return word == "thence" || word == "then" || word == "thenc"; }
-bool isApproximateDirection(std::string_view word) { return contains(kApproximate, word); }
-bool isSideNoun(std::string_view word) { return contains(kSideNouns, word); }
-bool isLabelWord(std::string_view word) { return contains(kLabelWords, word); }
-bool isWidthNoun(std::string_view word) { return contains(kWidthNouns, word); }
-bool isMarkerNoun(std::string_view word) { return contains(kMarkerNouns, word); }
-bool isCallCutWord(std::string_view word) { return contains(kCallCut, word); }
-bool isAreaWord(std::string_view word) { return contains(kAreaWords, word); }
+bool isApproximateDirection(std::string_view word)
+{
+    static const WordSet words = setOf(kApproximate);
+    return words.count(word) != 0;
+}
+bool isSideNoun(std::string_view word)
+{
+    static const WordSet words = setOf(kSideNouns);
+    return words.count(word) != 0;
+}
+bool isLabelWord(std::string_view word)
+{
+    static const WordSet words = setOf(kLabelWords);
+    return words.count(word) != 0;
+}
+bool isWidthNoun(std::string_view word)
+{
+    static const WordSet words = setOf(kWidthNouns);
+    return words.count(word) != 0;
+}
+bool isMarkerNoun(std::string_view word)
+{
+    static const WordSet words = setOf(kMarkerNouns);
+    return words.count(word) != 0;
+}
+bool isCallCutWord(std::string_view word)
+{
+    static const WordSet words = setOf(kCallCut);
+    return words.count(word) != 0;
+}
+bool isAreaWord(std::string_view word)
+{
+    static const WordSet words = setOf(kAreaWords);
+    return words.count(word) != 0;
+}
 
 } // namespace quilmar::deedtext
