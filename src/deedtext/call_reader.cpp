@@ -476,7 +476,7 @@ std::optional<CallReader::Found> CallReader::directionAt(size_t i)
         const size_t p = prevWordIndex(i);
         if (p != std::string::npos && (isKind(p, TokKind::Number)
                                        || (!letter && (word(p) == "the" || word(p) == "said" || word(p) == "its"
-                                                       || word(p) == "of" || word(p) == "an" || word(p) == "a"))))
+                                                       || word(p) == "an" || word(p) == "a"))))
             return std::nullopt;
         size_t k = skipPunct(i + 1);
         if (!letter && isSideNoun(word(k)))
@@ -517,9 +517,12 @@ std::optional<CallReader::Found> CallReader::directionAt(size_t i)
     if (isEW(w)) {
         const bool letter = w.size() == 1;
         const size_t p = prevWordIndex(i);
-        if (p != std::string::npos && (isKind(p, TokKind::Number)
+        // The east/west letter of a bearing that could not be read is not a due course.
+        if (p != std::string::npos && (isKind(p, TokKind::Number) || isKind(p, TokKind::Degree)
+                                       || isKind(p, TokKind::Minute) || isKind(p, TokKind::Second)
+                                       || isDegreeWord(word(p)) || isMinuteWord(word(p)) || isSecondWord(word(p))
                                        || (!letter && (word(p) == "the" || word(p) == "said" || word(p) == "its"
-                                                       || word(p) == "of" || word(p) == "an" || word(p) == "a"))))
+                                                       || word(p) == "an" || word(p) == "a"))))
             return std::nullopt;
         const size_t k = skipPunct(i + 1);
         if (!letter && isSideNoun(word(k)))
@@ -711,12 +714,17 @@ Call CallReader::read()
             return call;
         }
 
-    if (m_curve)
+    if (m_curve) {
         readCurve(call);
-    else
+    } else {
+        if (m_nextCurveAt != std::string::npos) {
+            // What follows "the beginning of a curve" describes the next call.
+            readNextCurve(call);
+            for (size_t i = m_nextCurveAt; i < m_end; ++i)
+                m_active[i - m_begin] = false;
+        }
         readStraight(call);
-    if (m_nextCurveAt != std::string::npos)
-        readNextCurve(call);
+    }
     return call;
 }
 
@@ -1007,6 +1015,8 @@ void CallReader::readCurve(Call &call)
         call.problems.push_back(chordBearing->problem);
     else if (chordBearing)
         call.direction = chordBearing->direction;
+    if (concave.empty())
+        concave = m_context.pendingConcave;
     if (!call.side && !concave.empty()) {
         // Concave toward a compass direction: the side follows from the way
         // the curve runs (its chord, or the course it continues).
@@ -1054,13 +1064,19 @@ void CallReader::readCurve(Call &call)
 void CallReader::readNextCurve(Call &call)
 {
     for (size_t i = m_nextCurveAt; i < m_end; ++i) {
-        if (!active(i) && !(in(i) && m_active[i - m_begin]))
+        if (!active(i))
             continue;
         const std::string_view w = word(i);
-        if (w == "radius" || w == "rad") {
+        if ((w == "radius" || w == "rad") && !call.nextRadius) {
             auto f = lengthAfter(i + 1, 6, true);
             if (f && f->problem.empty())
                 call.nextRadius = f->length;
+        }
+        if (w == "concave" || w == "concaved") {
+            size_t k = skipPunct(i + 1);
+            while (word(k) == "to" || word(k) == "the" || word(k) == "toward" || word(k) == "towards")
+                ++k;
+            call.nextConcave = std::string(word(k));
         }
     }
     call.nextSide = sideWord(m_nextCurveAt, m_end);

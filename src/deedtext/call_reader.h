@@ -52,6 +52,7 @@ struct Call {
     /// beginning of a curve to the right having a radius of 500 feet").
     std::optional<Length> nextRadius;
     char nextSide = 0;
+    std::string nextConcave; ///< "northwesterly" of "concave northwesterly"
     std::vector<std::string> problems; ///< any problem: no course row
     std::vector<std::string> warnings; ///< the row stands, but is worth a look
     /// True when the call holds a direction or a length at all.
@@ -63,6 +64,7 @@ struct CallContext {
     std::optional<Direction> previous; ///< the last straight course's direction
     std::optional<Length> pendingRadius;
     char pendingSide = 0;
+    std::string pendingConcave;
 };
 
 /// Reads the call in tokens [@p begin, @p end) of @p tokens.

@@ -310,6 +310,7 @@ DeedImport parseDeedText(std::string_view text)
                 context.previous.reset();
             context.pendingRadius = call.nextRadius;
             context.pendingSide = call.nextSide;
+            context.pendingConcave = call.nextConcave;
             if (call.closes) {
                 if (mode == Mode::Commence || (call.truePoint && mode == Mode::Body && !b.tagInFigure)) {
                     if (b.needNew) {
