@@ -214,7 +214,7 @@ void CallReader::markLabels()
             if (isKind(p, TokKind::Period) || isKind(p, TokKind::Colon) || w == "no" || w == "#" || w == "number"
                 || w == "nos")
                 continue;
-            label = isLabelWord(w) && w != "course";
+            label = isLabelWord(w);
             break;
         }
         // "3rd", "5th": ordinals name streets and corners.
@@ -230,7 +230,9 @@ void CallReader::markLabels()
         // "said lot 33 feet": a number with a unit is a length after all.
         if (label && p + 1 == i && (unitNamed(next) || isKind(i + 1, TokKind::Minute)) && !isAreaWord(next))
             label = false;
-        // "1." or "2)" at the start of a line numbers a list of calls.
+        // "Course 1:", "Call 2:" and "1." or "2)" at the start of a line number a list of calls.
+        if (isKind(i + 1, TokKind::Colon) && (word(p) == "course" || word(p) == "call" || word(p) == "line"))
+            label = true;
         if (m_t[i].lineStart && (isKind(i + 1, TokKind::Period) || isKind(i + 1, TokKind::RParen))
             && !isKind(i + 2, TokKind::Number))
             label = true;

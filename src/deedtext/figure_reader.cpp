@@ -206,10 +206,15 @@ DeedImport parseDeedText(std::string_view text)
     CallContext context;
     std::optional<Clause> pendingException;
 
+    // A close followed by more "thence" calls was the end of a commencement
+    // ("Beginning at the section corner; thence N 100 feet to the point of
+    // beginning; thence ..."): its "C" becomes the "B".
+    std::optional<size_t> lastClose;
     auto spanOf = [&](const Clause &c) {
         return Span{t[c.begin].span.begin, t[c.end - 1].span.end};
     };
     auto newFigure = [&] {
+        lastClose.reset();
         if (b.figureRows > 0)
             b.needNew = true;
         b.figureRows = 0;
@@ -285,11 +290,20 @@ DeedImport parseDeedText(std::string_view text)
         case ClauseKind::Call:
             break;
         }
-        if (mode == Mode::Idle)
+        if (mode == Mode::Idle && !(lastClose && c.kind == ClauseKind::Call))
             continue;
         for (const auto &[from, to] : splitCourses(t, c.begin, c.end)) {
-            if (mode == Mode::Idle)
-                break;
+            if (mode == Mode::Idle) {
+                if (!lastClose || b.rows[*lastClose].tag != 'C')
+                    break;
+                const Call next = readCall(t, from, to, context);
+                if (!next.problems.empty() || !next.distance)
+                    break;
+                b.rows[*lastClose].tag = 'B';
+                b.tagInFigure = true;
+                lastClose.reset();
+                mode = Mode::Body;
+            }
             const Call call = readCall(t, from, to, context);
             for (const auto &w : call.warnings)
                 b.flags.push_back({call.span, w, Severity::Warning});
@@ -329,6 +343,8 @@ DeedImport parseDeedText(std::string_view text)
                     addTag('C', call.span);
                     ++b.figureRows;
                     mode = Mode::Idle;
+                    if (!b.tagInFigure)
+                        lastClose = b.rows.size() - 1;
                 }
             }
         }

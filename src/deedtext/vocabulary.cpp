@@ -99,7 +99,7 @@ constexpr std::string_view kSideNouns[] = {
     "road", "rd", "main", "lot", "lots", "most", "extremity", "terminus", "fence", "of", "one",
     "fraction", "tract", "addition", "boulevard", "blvd", "lane", "drive", "highway", "township",
     "range", "section", "face", "curb", "gutter", "shore", "water", "abutment", "point", "ridge",
-    "prong", "bound", "limits", "limit", "ditch", "wing", "direction", "dimension", "feet",
+    "prong", "bound", "limits", "limit", "ditch", "wing", "dimension", "feet",
 };
 
 constexpr std::string_view kLabelWords[] = {
@@ -110,7 +110,7 @@ constexpr std::string_view kLabelWords[] = {
     "survey", "abstract", "grant", "patent", "year", "dated", "district", "precinct", "ward", "square",
     "sq", "sr", "us", "interstate", "article", "item", "exhibit", "schedule", "series", "docket",
     "file", "drawer", "folder", "reception", "entry", "claim", "ordinance", "code", "subdivision",
-    "tax", "parcels", "pin", "apn", "id", "case", "order", "resolution", "am", "pm", "course",
+    "tax", "parcels", "pin", "apn", "id", "case", "order", "resolution", "am", "pm", "course", "call",
 };
 
 // After any length: the length is a width or a depth, not a course.
