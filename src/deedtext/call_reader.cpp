@@ -805,6 +805,9 @@ void CallReader::takeLengths(Call &call, size_t afterDirection)
         const std::string_view pw = prevWord(i);
         if (pw == "at" || pw == "distant" || (pw == "of" && wordBefore(i, {"at"}, 4)))
             f->feature = true;
+        // "20 feet from and parallel to the centre line": an offset, not the course.
+        if (word(f->end) == "from" || word(f->end) == "distant" || word(f->end) == "off")
+            f->feature = true;
         if (wordBefore(i, {"all", "total", "totaling", "totalling", "whole", "altogether"}, 4))
             f->inAll = true;
         if (wordBefore(i, {"about", "approximately", "approx", "abt", "circa", "nearly"}, 2))
@@ -867,6 +870,11 @@ void CallReader::readCurve(Call &call)
                 ++k;
             concave = word(k);
         }
+        if (w == "curve" && i > m_begin
+            && (isKind(i - 1, TokKind::Degree) || isKind(i - 1, TokKind::Minute) || isDegreeWord(word(i - 1)))) {
+            degreeOfCurve = true; // "a 4°00' curve", "a 2 degree curve"
+            continue;
+        }
         if ((w == "degree" && word(i + 1) == "of" && (word(i + 2) == "curve" || word(i + 2) == "curvature"))
             || (w == "dc" && eq)) {
             degreeOfCurve = true;
@@ -879,6 +887,18 @@ void CallReader::readCurve(Call &call)
         if (w == "radius" || w == "rad" || (w == "r" && eq)) {
             if (word(i + 1) == "point" || word(i + 1) == "pt")
                 continue;
+            // "a 500.00 foot radius curve"
+            size_t u = i;
+            while (u > m_begin && isKind(u - 1, TokKind::Hyphen))
+                --u;
+            if (u >= m_begin + 2 && isKind(u - 2, TokKind::Number) && !call.radius) {
+                auto f = lengthAt(u - 2, false);
+                if (f && f->problem.empty() && f->end == u) {
+                    use(u - 2, i + 1);
+                    call.radius = f->length;
+                    continue;
+                }
+            }
             auto f = lengthAfter(i + 1, 6, true);
             if (f && !call.radius) {
                 use(i, f->end);
@@ -893,7 +913,7 @@ void CallReader::readCurve(Call &call)
             || (w == "length" && !wordBefore(i, {"chord", "tangent", "radius"}, 2))
             || (w == "distance" && !wordBefore(i, {"chord", "tangent"}, 2))) {
             auto f = lengthAfter(i + 1, 5, true);
-            if (f && !call.distance) {
+            if (f && !call.distance && word(f->end) != "radius" && !isKind(f->end, TokKind::Hyphen)) {
                 use(i, f->end);
                 if (!f->problem.empty())
                     call.problems.push_back(f->problem);
