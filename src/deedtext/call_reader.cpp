@@ -621,6 +621,9 @@ std::optional<CallReader::FoundLength> CallReader::lengthAt(size_t i, bool allow
         f.size = true;
     if (word(i + 1) == "x" || word(f.end) == "x")
         f.size = true;
+    // A few inches alone are a marker's size ("5/8 inch"), never a course.
+    if (parts == 1 && first.factorToFeet < 1.0 / 11 && feet < 1.0)
+        f.size = true;
     return f;
 }
 
@@ -815,16 +818,16 @@ void CallReader::takeLengths(Call &call, size_t afterDirection)
         use(f->begin, f->end);
         lengths.push_back(*f);
     }
+    // The course's length: the one "in all"; else the first that is not a
+    // feature passed, a width or a size, preferring one with its unit written.
     const FoundLength *chosen = nullptr;
     for (const auto &l : lengths)
         if (l.inAll && !l.size)
             chosen = &l;
-    if (!chosen)
+    for (bool bare : {false, true})
         for (const auto &l : lengths)
-            if (!l.feature && !l.size) {
+            if (!chosen && !l.feature && !l.size && l.bare == bare)
                 chosen = &l;
-                break;
-            }
     if (!chosen)
         for (const auto &l : lengths)
             if (!l.size) {

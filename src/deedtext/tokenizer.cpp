@@ -215,6 +215,22 @@ private:
             if (digits.size() > 12)
                 break;
         }
+        // "100,50 m": a decimal comma, as metric descriptions write it.
+        if (at(m_i) == ',' && isDigit(at(m_i + 1)) && digits.find('.') == std::string::npos) {
+            size_t j = m_i + 1;
+            while (isDigit(at(j)))
+                ++j;
+            size_t k = j;
+            while (at(k) == ' ')
+                ++k;
+            const bool metre = (at(k) == 'm' || at(k) == 'M') && !isAlpha(at(k + 1));
+            const bool metreWord = (at(k) == 'm' || at(k) == 'M') && (at(k + 1) == 'e' || at(k + 1) == 'E');
+            if ((metre || metreWord) && j - m_i - 1 != 3) {
+                digits += '.';
+                digits.append(m_s.substr(m_i + 1, j - m_i - 1));
+                m_i = j;
+            }
+        }
         if (at(m_i) == '.' && isDigit(at(m_i + 1))) {
             digits += '.';
             ++m_i;
