@@ -233,8 +233,7 @@ void CallReader::markLabels()
         // "Course 1:", "Call 2:" and "1." or "2)" at the start of a line number a list of calls.
         if (isKind(i + 1, TokKind::Colon) && (word(p) == "course" || word(p) == "call" || word(p) == "line"))
             label = true;
-        if (m_t[i].lineStart && (isKind(i + 1, TokKind::Period) || isKind(i + 1, TokKind::RParen))
-            && !isKind(i + 2, TokKind::Number))
+        if (m_t[i].lineStart && (isKind(i + 1, TokKind::Period) || isKind(i + 1, TokKind::RParen)))
             label = true;
         if (label)
             m_active[i - m_begin] = false;
@@ -448,9 +447,14 @@ std::optional<CallReader::Found> CallReader::directionAt(size_t i)
         size_t k = i + 1;
         while (in(k) && (isPunct(k) || isKind(k, TokKind::Equals) || word(k) == "of" || word(k) == "an"))
             ++k;
-        const auto a = readAngle(k, true);
+        auto a = readAngle(k, true);
         if (!a)
             return std::nullopt;
+        if (m_context.azimuthFromSouth) {
+            a->deg += 180;
+            if (a->deg >= 360)
+                a->deg -= 360;
+        }
         auto d = azimuthToQuadrant(*a, f.problem);
         if (d)
             f.direction = *d;
@@ -752,6 +756,21 @@ void CallReader::readStraight(Call &call)
             auto f = directionAt(i);
             if (f)
                 found = f;
+        }
+    }
+    if (!found && m_context.azimuthDoc) {
+        const size_t k = skipPunct(m_begin);
+        if (isKind(k, TokKind::Number) && (isKind(k + 1, TokKind::Degree) || isDegreeWord(word(k + 1)))) {
+            if (auto a = readAngle(k, true)) {
+                if (m_context.azimuthFromSouth)
+                    a->deg = a->deg >= 180 ? a->deg - 180 : a->deg + 180;
+                Found f;
+                f.begin = k;
+                f.end = a->end;
+                if (auto d = azimuthToQuadrant(*a, f.problem))
+                    f.direction = *d;
+                found = f;
+            }
         }
     }
     size_t afterDirection = m_begin;

@@ -61,6 +61,12 @@ struct Call {
 
 /// What the call before tells this one.
 struct CallContext {
+    /// Azimuths of this description are measured from south ("measured
+    /// clockwise from true South"), as some island surveys give them.
+    bool azimuthFromSouth = false;
+    /// The description gives its courses "by azimuths": an angle alone at the
+    /// head of a call ("2. 180° 00' 200.00 feet") is an azimuth.
+    bool azimuthDoc = false;
     std::optional<Direction> previous; ///< the last straight course's direction
     std::optional<Length> pendingRadius;
     char pendingSide = 0;

@@ -200,10 +200,24 @@ DeedImport parseDeedText(std::string_view text)
     bool anyClauseWord = false;
     const std::vector<Clause> clauses = splitClauses(t, anyClauseWord);
 
+    // "azimuths ... measured clockwise from true South": said once for the whole description.
+    bool fromSouth = false;
+    for (size_t i = 2; i < t.size() && !fromSouth; ++i) {
+        if (!t[i].isWord("south") || !(t[i - 1].isWord("from") || (t[i - 1].isWord("true") && t[i - 2].isWord("from"))))
+            continue;
+        for (size_t k = i > 16 ? i - 16 : 0; k < i; ++k)
+            fromSouth = fromSouth || t[k].isWord("azimuth") || t[k].isWord("azimuths");
+    }
+    bool azimuthDoc = false;
+    for (size_t i = 0; i < t.size() && !azimuthDoc; ++i)
+        azimuthDoc = t[i].isWord("azimuths")
+                     || (t[i].isWord("azimuth") && i + 1 < t.size() && t[i + 1].isWord("measured"));
     enum class Mode { Idle, Commence, Body } mode = anyClauseWord ? Mode::Idle : Mode::Body;
     Builder b;
     size_t tieRows = 0;
     CallContext context;
+    context.azimuthFromSouth = fromSouth;
+    context.azimuthDoc = azimuthDoc;
     std::optional<Clause> pendingException;
 
     // A close followed by more "thence" calls was the end of a commencement
@@ -220,6 +234,8 @@ DeedImport parseDeedText(std::string_view text)
         b.figureRows = 0;
         b.tagInFigure = false;
         context = {};
+        context.azimuthFromSouth = fromSouth;
+        context.azimuthDoc = azimuthDoc;
     };
     auto addTag = [&](char tag, Span span) {
         PendingRow r;
