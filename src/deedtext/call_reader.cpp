@@ -476,6 +476,9 @@ std::optional<CallReader::Found> CallReader::directionAt(size_t i)
         f.end = i + 1;
         return f;
     }
+    // "Township 3 North", "T2N": a number right before the word names a township or range.
+    if (i > m_begin && isKind(i - 1, TokKind::Number) && (isNS(w) || isEW(w)))
+        return std::nullopt;
     if (isNS(w) && w != "no") {
         const char ns = (w[0] == 'n') ? 'N' : 'S';
         const bool letter = w.size() == 1;
@@ -561,6 +564,7 @@ std::optional<CallReader::FoundLength> CallReader::lengthAt(size_t i, bool allow
         if (isKind(u, TokKind::Minute)) unit = feetUnit();
         else if (isKind(u, TokKind::Second)) unit = inchUnit();
         else if (word(u) == "in" && anyFeetFamily) unit = inchUnit();
+        else if ((word(u) == "l" || word(u) == "li") && parts > 0 && lastFactor == 66.0) unit = unitNamed("links");
         else if (word(u) == "in" && isKind(u + 1, TokKind::Period) && !isKind(u + 2, TokKind::Number)) unit = inchUnit();
         else unit = unitNamed(word(u));
         if (!unit) {

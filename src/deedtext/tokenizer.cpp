@@ -158,6 +158,11 @@ private:
             return;
         case 0xFFFD: return push(TokKind::Lost, begin, m_i);
         case '?': return question(begin);
+        case '*':
+            // "45*30'": a typed stand-in for the degree sign between digits.
+            if (begin > 0 && isDigit(m_s[begin - 1]) && (isDigit(at(m_i)) || (at(m_i) == ' ' && isDigit(at(m_i + 1)))))
+                return push(TokKind::Degree, begin, m_i);
+            return push(TokKind::Other, begin, m_i);
         default: return push(TokKind::Other, begin, m_i);
         }
     }

@@ -18,7 +18,8 @@ struct UnitRow {
 };
 
 // Every spelling of every unit, with its factor to feet. Abbreviations that are
-// also ordinary words ("in", "p", "r") are left out on purpose.
+// also ordinary words ("in", "r", "c", "l") are left out on purpose; "p" after a
+// number is a pole ("40 p."), a page number comes after its word ("p. 22").
 constexpr UnitRow kUnits[] = {
     {"feet", {"foot", 1.0}}, {"foot", {"foot", 1.0}}, {"ft", {"foot", 1.0}}, {"fts", {"foot", 1.0}},
     {"inch", {"inch", 1.0 / 12.0}}, {"inches", {"inch", 1.0 / 12.0}}, {"ins", {"inch", 1.0 / 12.0}},
@@ -26,7 +27,7 @@ constexpr UnitRow kUnits[] = {
     {"chns", {"chain", 66.0}}, {"cha", {"chain", 66.0}},
     {"link", {"link", 0.66}}, {"links", {"link", 0.66}}, {"lk", {"link", 0.66}}, {"lks", {"link", 0.66}},
     {"li", {"link", 0.66}},
-    {"pole", {"pole", 16.5}}, {"poles", {"pole", 16.5}}, {"po", {"pole", 16.5}}, {"pls", {"pole", 16.5}},
+    {"pole", {"pole", 16.5}}, {"poles", {"pole", 16.5}}, {"po", {"pole", 16.5}}, {"p", {"pole", 16.5}}, {"pol", {"pole", 16.5}}, {"pls", {"pole", 16.5}},
     {"rod", {"rod", 16.5}}, {"rods", {"rod", 16.5}}, {"rds", {"rod", 16.5}}, {"rd", {"rod", 16.5}},
     {"perch", {"perch", 16.5}}, {"perches", {"perch", 16.5}}, {"per", {"perch", 16.5}}, {"prs", {"perch", 16.5}},
     {"vara", {"vara", kVara}}, {"varas", {"vara", kVara}}, {"vrs", {"vara", kVara}}, {"vs", {"vara", kVara}},
