@@ -329,6 +329,8 @@ DeedImport parseDeedText(std::string_view text)
             const bool course = !flagged && (call.distance.has_value() || (call.curve && (call.chord || call.radius)));
             if (!flagged && !course && !call.closes && !call.holdsCourse())
                 continue; // a clause without a course: "thence with the road"
+            if (call.closes && !course && !flagged && b.figureRows == 0)
+                continue; // "POINT OF BEGINNING: the corner of ...": a heading, not a close
             if (course) {
                 addRow(call);
                 if (mode == Mode::Commence)
