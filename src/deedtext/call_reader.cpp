@@ -102,6 +102,25 @@ private:
         size_t begin = 0, end = 0;
     };
     std::optional<Found> directionAt(size_t i);
+    /// Whether the token at @p k may follow a cardinal word that gives a due
+    /// course ("East 210 feet", "North along", "West, 50 feet"), rather than a
+    /// name ("West Elm Street").
+    bool cardinalFollower(size_t k) const
+    {
+        if (!in(k) || m_t[k].kind != TokKind::Word)
+            return true;
+        static constexpr std::string_view kFollowers[] = {
+            "along", "with", "by", "parallel", "on", "to", "and", "thence", "binding", "through", "across",
+            "crossing", "a", "an", "one", "two", "three", "four", "five", "six", "seven", "eight", "nine", "ten",
+            "at", "for", "in", "into", "over", "up", "down", "continuing", "passing", "about", "approximately",
+            "distance", "following", "leaving", "still", "further", "then", "between", "upon", "said", "the",
+            "from", "more", "feet", "poles", "chains", "rods", "perches", "varas", "until", "toward", "towards"};
+        const std::string_view w = m_t[k].word;
+        for (auto f : kFollowers)
+            if (w == f)
+                return true;
+        return m_t[k].fromWords;
+    }
 
     struct FoundLength {
         Length length;
@@ -336,6 +355,9 @@ std::optional<CallReader::Angle> CallReader::readAngle(size_t i, bool allowBareT
     }
     if (parts.empty())
         return std::nullopt;
+    // "N 1/2 of the SE 1/4": an aliquot part, not an angle.
+    if (m_t[i].kind == TokKind::Number && m_t[i].fraction && m_t[i].value < 1 && !parts[0].marked)
+        return std::nullopt;
     // Trailing unmarked parts after the first belong to the angle only when an
     // east/west letter follows or they are joined ("45-30-15"); otherwise they
     // are the call's length ("N 45° 100 feet").
@@ -516,7 +538,7 @@ std::optional<CallReader::Found> CallReader::directionAt(size_t i)
             return f;
         }
         // Due north or south: the full word, or the letter before a length.
-        if (!letter || isKind(k, TokKind::Number)) {
+        if ((!letter && cardinalFollower(k)) || isKind(k, TokKind::Number)) {
             f.direction.ns = ns;
             f.end = i + 1;
             return f;
@@ -536,7 +558,7 @@ std::optional<CallReader::Found> CallReader::directionAt(size_t i)
         const size_t k = skipPunct(i + 1);
         if (!letter && isSideNoun(word(k)))
             return std::nullopt;
-        if (letter && !isKind(k, TokKind::Number))
+        if (letter ? !isKind(k, TokKind::Number) : !cardinalFollower(k))
             return std::nullopt;
         f.direction.ns = w[0] == 'e' ? 'E' : 'W';
         f.end = i + 1;
@@ -564,7 +586,8 @@ std::optional<CallReader::FoundLength> CallReader::lengthAt(size_t i, bool allow
         if (isKind(u, TokKind::Minute)) unit = feetUnit();
         else if (isKind(u, TokKind::Second)) unit = inchUnit();
         else if (word(u) == "in" && anyFeetFamily) unit = inchUnit();
-        else if ((word(u) == "l" || word(u) == "li") && parts > 0 && lastFactor == 66.0) unit = unitNamed("links");
+        else if ((word(u) == "l" || word(u) == "li") && parts > 0 && lastFactor == unitNamed("chain")->factorToFeet)
+            unit = unitNamed("links");
         else if (word(u) == "in" && isKind(u + 1, TokKind::Period) && !isKind(u + 2, TokKind::Number)) unit = inchUnit();
         else unit = unitNamed(word(u));
         if (!unit) {
@@ -572,7 +595,8 @@ std::optional<CallReader::FoundLength> CallReader::lengthAt(size_t i, bool allow
                 break;
             // A number alone: a length only right after the direction, in the
             // description's usual unit.
-            if (!allowBare)
+            // "E 1/2 of Lot 5": a part of a lot, not a length.
+            if (!allowBare || (n.fraction && n.value < 1) || word(u) == "of")
                 return std::nullopt;
             f.bare = true;
             f.length = {n.value, Length::Kind::Bare, 1};

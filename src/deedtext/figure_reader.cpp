@@ -13,6 +13,7 @@
 #include <map>
 
 #include "call_reader.h"
+#include "ground_units.h"
 #include "number_text.h"
 #include "tokenizer.h"
 #include "vocabulary.h"
@@ -181,7 +182,7 @@ std::string lengthCell(const std::optional<Length> &l, bool metric, double bareF
     double v = l->value;
     switch (l->kind) {
     case Length::Kind::Feet: break;
-    case Length::Kind::Metres: v = metric ? l->value : l->value * 3.281; break;
+    case Length::Kind::Metres: v = metric ? l->value : l->value * groundUnitFactor(GroundUnit::Meters).feet; break;
     case Length::Kind::Bare: v = l->value * bareFactor; break;
     }
     return formatNumber(v);

@@ -86,6 +86,34 @@ private:
 
     char at(size_t i) const { return i < m_s.size() ? m_s[i] : '\0'; }
 
+    /// A small "o" at @p i right after digits that stands for the degree sign:
+    /// not followed by a letter, and not a zero inside a number ("1o0") unless
+    /// minutes follow ("45o30'").
+    bool smallDegree(size_t i) const
+    {
+        if (isAlpha(at(i + 1)))
+            return false;
+        if (!isDigit(at(i + 1)))
+            return true;
+        size_t j = i + 1;
+        while (isDigit(at(j)))
+            ++j;
+        return at(j) == '\'' || (at(j) == '\xE2' && at(j + 1) == '\x80');
+    }
+
+    /// A hyphen at @p i that ends a line, with a lower-case letter opening the next.
+    bool hyphenatedBreak(size_t i) const
+    {
+        size_t j = i + 1;
+        while (at(j) == ' ' || at(j) == '\t')
+            ++j;
+        if (at(j) != '\n' && at(j) != '\r')
+            return false;
+        while (at(j) == '\r' || at(j) == '\n' || at(j) == ' ' || at(j) == '\t')
+            ++j;
+        return at(j) >= 'a' && at(j) <= 'z';
+    }
+
     void step()
     {
         const char c = m_s[m_i];
@@ -198,6 +226,9 @@ private:
                 if (isDigit(c)) {
                     digits += c;
                     ++m_i;
+                } else if (c == 'o' && !digits.empty() && smallDegree(m_i)) {
+                    // A typed small "o" after the degrees stands for the degree sign: "N 45o 30' E".
+                    break;
                 } else if (isDigitLookalike(c) && !digits.empty() && digits.back() != '.'
                            && (isDigit(at(m_i + 1)) || (isDigitLookalike(at(m_i + 1)) && isDigit(at(m_i + 2)))
                                || !isAlpha(at(m_i + 1)))) {
@@ -259,6 +290,10 @@ private:
         push(TokKind::Number, begin, m_i);
         m_out.back().value = value;
         m_out.back().fraction = fraction;
+        if (at(m_i) == 'o' && smallDegree(m_i)) {
+            push(TokKind::Degree, m_i, m_i + 1);
+            ++m_i;
+        }
     }
 
     void word()
@@ -270,6 +305,11 @@ private:
             if (isAlpha(c)) {
                 w += lower(c);
                 ++m_i;
+            } else if (c == '-' && hyphenatedBreak(m_i)) {
+                // "begin-" at a line's end and "ning" on the next: one word.
+                ++m_i;
+                while (at(m_i) == '\r' || at(m_i) == '\n' || at(m_i) == ' ' || at(m_i) == '\t')
+                    ++m_i;
             } else if (c == '0' && !w.empty() && !isDigit(at(m_i + 1))
                        && !(w.size() == 1 && (w == "n" || w == "s" || w == "e" || w == "w"))) {
                 w += 'o'; // zero scanned for the letter O: "T0", "P0INT"

@@ -1,5 +1,7 @@
 #include "vocabulary.h"
 
+#include "ground_units.h"
+
 #include <array>
 #include <unordered_map>
 #include <unordered_set>
@@ -9,8 +11,14 @@ namespace quilmar::deedtext {
 
 namespace {
 
-constexpr double kVara = 2.7777778;
-constexpr double kMetre = 3.281;
+// The program's own factors, from its one table of ground units.
+constexpr double kChain = groundUnitFactor(GroundUnit::Chains).feet;
+constexpr double kLink = groundUnitFactor(GroundUnit::Links).feet;
+constexpr double kRod = groundUnitFactor(GroundUnit::Rods).feet;
+constexpr double kPerch = groundUnitFactor(GroundUnit::Perches).feet;
+constexpr double kVara = groundUnitFactor(GroundUnit::Varas).feet;
+constexpr double kYard = groundUnitFactor(GroundUnit::Yards).feet;
+constexpr double kMetre = groundUnitFactor(GroundUnit::Meters).feet;
 
 struct UnitRow {
     std::string_view word;
@@ -23,18 +31,18 @@ struct UnitRow {
 constexpr UnitRow kUnits[] = {
     {"feet", {"foot", 1.0}}, {"foot", {"foot", 1.0}}, {"ft", {"foot", 1.0}}, {"fts", {"foot", 1.0}},
     {"inch", {"inch", 1.0 / 12.0}}, {"inches", {"inch", 1.0 / 12.0}}, {"ins", {"inch", 1.0 / 12.0}},
-    {"chain", {"chain", 66.0}}, {"chains", {"chain", 66.0}}, {"ch", {"chain", 66.0}}, {"chs", {"chain", 66.0}},
-    {"chns", {"chain", 66.0}}, {"cha", {"chain", 66.0}},
-    {"link", {"link", 0.66}}, {"links", {"link", 0.66}}, {"lk", {"link", 0.66}}, {"lks", {"link", 0.66}},
-    {"li", {"link", 0.66}},
-    {"pole", {"pole", 16.5}}, {"poles", {"pole", 16.5}}, {"po", {"pole", 16.5}}, {"p", {"pole", 16.5}}, {"pol", {"pole", 16.5}}, {"pls", {"pole", 16.5}},
-    {"rod", {"rod", 16.5}}, {"rods", {"rod", 16.5}}, {"rds", {"rod", 16.5}}, {"rd", {"rod", 16.5}},
-    {"perch", {"perch", 16.5}}, {"perches", {"perch", 16.5}}, {"per", {"perch", 16.5}}, {"prs", {"perch", 16.5}},
+    {"chain", {"chain", kChain}}, {"chains", {"chain", kChain}}, {"ch", {"chain", kChain}}, {"chs", {"chain", kChain}},
+    {"chns", {"chain", kChain}}, {"cha", {"chain", kChain}},
+    {"link", {"link", kLink}}, {"links", {"link", kLink}}, {"lk", {"link", kLink}}, {"lks", {"link", kLink}},
+    {"li", {"link", kLink}},
+    {"pole", {"pole", kRod}}, {"poles", {"pole", kRod}}, {"po", {"pole", kRod}}, {"p", {"pole", kRod}}, {"pol", {"pole", kRod}}, {"pls", {"pole", kRod}},
+    {"rod", {"rod", kRod}}, {"rods", {"rod", kRod}}, {"rds", {"rod", kRod}}, {"rd", {"rod", kRod}},
+    {"perch", {"perch", kPerch}}, {"perches", {"perch", kPerch}}, {"per", {"perch", kPerch}}, {"prs", {"perch", kPerch}},
     {"vara", {"vara", kVara}}, {"varas", {"vara", kVara}}, {"vrs", {"vara", kVara}}, {"vs", {"vara", kVara}},
     {"metre", {"metre", kMetre, true}}, {"metres", {"metre", kMetre, true}}, {"meter", {"metre", kMetre, true}},
     {"meters", {"metre", kMetre, true}}, {"m", {"metre", kMetre, true}}, {"mtrs", {"metre", kMetre, true}},
     {"mts", {"metre", kMetre, true}},
-    {"yard", {"yard", 3.0}}, {"yards", {"yard", 3.0}}, {"yd", {"yard", 3.0}}, {"yds", {"yard", 3.0}},
+    {"yard", {"yard", kYard}}, {"yards", {"yard", kYard}}, {"yd", {"yard", kYard}}, {"yds", {"yard", kYard}},
     // Units the program has no factor for: read, named, and flagged.
     {"arpent", {"arpent", 0, false, false}}, {"arpents", {"arpent", 0, false, false}},
     {"ell", {"ell", 0, false, false}}, {"ells", {"ell", 0, false, false}},

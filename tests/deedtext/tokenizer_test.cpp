@@ -43,7 +43,7 @@ INSTANTIATE_TEST_SUITE_P(Deeds, NumberWords, ::testing::Values(
 TEST(Tokenizer, MarksOfDegreesMinutesSeconds)
 {
     // Typographic marks, the ASCII stand-ins, and a scanned "?" for the degree sign.
-    for (const char *text : {"45°30'15\"", "45º30′15″", "45°30’15”", "45?30'15''"}) {
+    for (const char *text : {"45°30'15\"", "45º30′15″", "45°30’15”", "45?30'15''", "45o30'15\"", "45*30'15\""}) {
         const auto t = tokenize(text);
         ASSERT_EQ(t.size(), 6u) << text;
         EXPECT_EQ(t[1].kind, TokKind::Degree) << text;
@@ -59,6 +59,13 @@ TEST(Tokenizer, GluedBearingSplits)
     EXPECT_EQ(t[0].word, "n");
     EXPECT_EQ(t[1].value, 45);
     EXPECT_EQ(t[6].word, "e");
+}
+
+TEST(Tokenizer, HyphenatedLineBreakJoinsTheWord)
+{
+    const auto t = tokenize("to the place of begin-\nning");
+    ASSERT_EQ(t.size(), 5u);
+    EXPECT_EQ(t[4].word, "beginning");
 }
 
 TEST(Tokenizer, LostDigitsAreMarked)
