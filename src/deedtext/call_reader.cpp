@@ -509,11 +509,16 @@ std::optional<CallReader::Found> CallReader::directionAt(size_t i)
                                        || (!letter && (word(p) == "the" || word(p) == "said" || word(p) == "its"
                                                        || word(p) == "an" || word(p) == "a"))))
             return std::nullopt;
+        // "N-45-W": hyphens around the angle are separators.
         size_t k = skipPunct(i + 1);
+        if (isKind(k, TokKind::Hyphen) && isKind(k + 1, TokKind::Number))
+            ++k;
         if (!letter && isSideNoun(word(k)))
             return std::nullopt;
         const auto a = readAngle(k, false);
-        const size_t afterAngle = a ? skipPunct(a->end) : k;
+        size_t afterAngle = a ? skipPunct(a->end) : k;
+        if (a && isKind(afterAngle, TokKind::Hyphen) && isEW(word(afterAngle + 1)))
+            ++afterAngle;
         const std::string_view ewWord = word(afterAngle);
         if (a) {
             if (isEW(ewWord) && !isSideNoun(word(skipPunct(afterAngle + 1)))) {
