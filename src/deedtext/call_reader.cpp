@@ -12,7 +12,7 @@ namespace {
 
 constexpr double kPi = 3.14159265;
 
-bool isNS(std::string_view w) { return w == "n" || w == "s" || w == "north" || w == "south" || w == "no" ; }
+bool isNS(std::string_view w) { return w == "n" || w == "s" || w == "north" || w == "south"; }
 bool isEW(std::string_view w) { return w == "e" || w == "w" || w == "east" || w == "west"; }
 bool isDegreeWord(std::string_view w) { return w == "degrees" || w == "degree" || w == "deg" || w == "d" || w == "dg"; }
 bool isMinuteWord(std::string_view w) { return w == "minutes" || w == "minute" || w == "min" || w == "mins" || w == "m"; }
@@ -501,7 +501,7 @@ std::optional<CallReader::Found> CallReader::directionAt(size_t i)
     // "Township 3 North", "T2N": a number right before the word names a township or range.
     if (i > m_begin && isKind(i - 1, TokKind::Number) && (isNS(w) || isEW(w)))
         return std::nullopt;
-    if (isNS(w) && w != "no") {
+    if (isNS(w)) {
         const char ns = (w[0] == 'n') ? 'N' : 'S';
         const bool letter = w.size() == 1;
         const size_t p = prevWordIndex(i);
@@ -713,18 +713,17 @@ Call CallReader::read()
             continue;
         const bool beginningWord = w == "beginning" || w == "begining" || w == "beg" || w == "commencement"
                                    || w == "commencing" || w == "begin";
+        // "point of beginning", "to the beginning", "said beginning", "the true point of beginning";
+        // not "the beginning of a curve".
         if (beginningWord && word(i + 1) != "of" && word(i + 1) != "a") {
-            const std::string_view b1 = prevWord(i);
             const size_t p1 = prevWordIndex(i);
+            const std::string_view b1 = prevWord(i);
             const std::string_view b2 = p1 == std::string::npos ? std::string_view() : prevWord(p1);
             const size_t p2 = p1 == std::string::npos ? p1 : prevWordIndex(p1);
             const std::string_view b3 = p2 == std::string::npos ? std::string_view() : prevWord(p2);
             if (b1 == "of" || b1 == "the" || b1 == "said" || (b1 == "true" && b2 == "the")) {
-                if (b1 == "of" || b1 == "the" || b1 == "said" || b1 == "true") {
-                    call.closes = true;
-                    if (b2 == "true" || b3 == "true" || b1 == "true")
-                        call.truePoint = true;
-                }
+                call.closes = true;
+                call.truePoint = call.truePoint || b1 == "true" || b2 == "true" || b3 == "true";
             }
         }
         if (w == "pob" || w == "tpob" || w == "p0b") {
