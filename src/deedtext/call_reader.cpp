@@ -894,11 +894,6 @@ void CallReader::takeLengths(Call &call, size_t afterDirection)
         if (!chosen->warning.empty())
             call.warnings.push_back(chosen->warning);
     }
-    for (const auto &l : lengths)
-        if (&l != chosen && !l.problem.empty() && !l.size && l.problem.rfind("unknown unit", 0) == 0) {
-            call.problems.push_back(l.problem);
-            return;
-        }
 }
 
 void CallReader::readCurve(Call &call)
