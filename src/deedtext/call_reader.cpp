@@ -723,6 +723,7 @@ Call CallReader::read()
             const std::string_view b3 = p2 == std::string::npos ? std::string_view() : prevWord(p2);
             if (b1 == "of" || b1 == "the" || b1 == "said" || (b1 == "true" && b2 == "the")) {
                 call.closes = true;
+                call.atCommencement = w == "commencement" || w == "commencing";
                 call.truePoint = call.truePoint || b1 == "true" || b2 == "true" || b3 == "true";
             }
         }

@@ -47,6 +47,7 @@ struct Call {
     char side = 0; ///< 'L' or 'R' for a curve
     bool closes = false;     ///< ends at the point (place) of beginning
     bool truePoint = false;  ///< ends at the "true point of beginning" of a commencement
+    bool atCommencement = false; ///< ends at the "place of commencement": the figure began there
     bool continuing = false; ///< "continuing" on the previous course
     /// Radius and side told for the curve that the next call follows ("to the
     /// beginning of a curve to the right having a radius of 500 feet").

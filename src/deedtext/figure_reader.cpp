@@ -345,7 +345,8 @@ DeedImport parseDeedText(std::string_view text)
             context.pendingSide = call.nextSide;
             context.pendingConcave = call.nextConcave;
             if (call.closes) {
-                if (mode == Mode::Commence || (call.truePoint && mode == Mode::Body && !b.tagInFigure)) {
+                const bool closesFigure = call.atCommencement && !call.truePoint;
+                if (!closesFigure && (mode == Mode::Commence || (call.truePoint && mode == Mode::Body && !b.tagInFigure))) {
                     if (b.needNew) {
                         addTag('N', call.span);
                         b.needNew = false;
