@@ -31,6 +31,8 @@ const Subcommand kSubcommands[] = {
     {"sample", "sample N [-o OUT.map]", "Write demo sample N (1 to 6) as a map file", setupSample},
     {"calc", "calc [--json] NAME ANSWER", "Run a converter or calculator of the Conversions menu", setupCalc},
     {"convert", "convert FROM FILE.map [-o OUT.map]", "Convert a whole map file to feet (or metres)", setupConvert},
+    {"import", "import [--units feet|meters] [--json] DEED.txt|- [-o OUT.map]",
+     "Read a deed's legal description into course rows and write the map file", setupImport},
 };
 
 // The option name a CLI11 error message starts with ("--scale: 1 required ...").

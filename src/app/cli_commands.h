@@ -37,5 +37,7 @@ Command setupClosure(CLI::App &app);
 Command setupCalc(CLI::App &app);
 /// quilmar convert FROM FILE.map [-o OUT.map]
 Command setupConvert(CLI::App &app);
+/// quilmar import [--units feet|meters] [--json] DEED.txt|- [-o OUT.map]
+Command setupImport(CLI::App &app);
 
 } // namespace quilmar
