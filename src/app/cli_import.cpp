@@ -165,7 +165,7 @@ struct ImportArguments {
 int usageError(const std::string &problem, CommandIo &io)
 {
     io.err += "quilmar import: " + problem + "\n" + usageText();
-    return 1;
+    return 2;
 }
 
 int import(ImportArguments &raw, CommandIo &io)
