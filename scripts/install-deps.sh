@@ -10,6 +10,7 @@ PACKAGES=(
   fonts-dejavu-core fonts-liberation2
   xvfb xauth xdotool imagemagick poppler-utils
   at-spi2-core python3-pyatspi dbus
+  clang libclang-rt-14-dev
 )
 
 missing=()
