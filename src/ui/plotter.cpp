@@ -509,6 +509,16 @@ void Plotter::openFile(const std::string &path)
     showResults();
 }
 
+void Plotter::restoreSession(const std::string &path)
+{
+    openFile(path);
+    QString heading = m_headerbox->toPlainText();
+    if (heading.endsWith('\n')) {
+        heading.chop(1);
+        m_headerbox->setPlainText(heading);
+    }
+}
+
 void Plotter::fileopen_Click()
 {
     for (int r = 0; r < GridRules::kVisibleRows; ++r) {

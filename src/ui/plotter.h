@@ -38,6 +38,10 @@ public:
 
     /// Opens @p path as "Open File..." does once its dialog has chosen it.
     void openFile(const std::string &path);
+    /// Opens the recovery file of a session that ended without a clean exit.
+    /// Unlike opening a map file, the heading comes back without the line
+    /// break that the file's tail line adds, so it is exactly what was typed.
+    void restoreSession(const std::string &path);
 
     // --- commands (public so that tests and the command line reach them) ---------
     void Toolbar_Click(int index);
