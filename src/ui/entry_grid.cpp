@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QScrollBar>
+#include <QSignalBlocker>
 
 namespace quilmar {
 
@@ -181,6 +182,15 @@ void EntryGrid::VScroll1_Change(int value)
     // table row it was typed into before the grid is refilled.
     if (refOf(QApplication::focusWidget()))
         m_utility->setFocus(Qt::OtherFocusReason);
+    if (m_rules.focused()) {
+        // The field refused to be left (its check failed and took the focus
+        // back): scrolling now would show another row in the field while what
+        // is typed there still belongs to the row it was entered in. The bar
+        // stays until the entry is fixed.
+        const QSignalBlocker block(m_scroll);
+        m_scroll->setValue(m_rules.scroll());
+        return;
+    }
     m_rules.scrollTo(value);
     sync();
 }

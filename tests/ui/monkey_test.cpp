@@ -1,0 +1,149 @@
+// The monkey: a seeded run of random keys, clicks, scrolls, menu commands and
+// dialog answers on the real window (offscreen platform). Nothing may crash,
+// hang or assert, and after every event each grid field that is not being
+// edited shows exactly what the course table holds.
+//
+// QUILMAR_MONKEY_EVENTS sets the length (a short run by default; the README
+// documents the long one), QUILMAR_MONKEY_SEED the seed.
+
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <random>
+#include <string>
+#include <vector>
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "entry_grid.h"
+#include "plotter.h"
+#include "scripted_dialogs.h"
+
+using namespace quilmar;
+namespace fs = std::filesystem;
+
+namespace {
+
+long envNumber(const char *name, long fallback)
+{
+    const char *text = std::getenv(name);
+    return text && *text ? std::strtol(text, nullptr, 10) : fallback;
+}
+
+// Commands a user reaches from the menus and buttons that keep the window
+// open; every question they ask is answered by the script.
+const char *const kCommands[] = {
+    "mnuRedraw", "mnuAcres", "mnuHectares", "mnuGap", "mnuPeri", "EditUndo", "Editcut", "Editcopy", "Editpaste",
+    "mnuDeleteEntry", "mnuDeleteAll", "mnuNew", "Filesave", "mnuBackup", "fileopen", "Toolbar_0", "Toolbar_1",
+    "Toolbar_2", "Toolbar_4", "Toolbar_5", "Toolbar_6", "mnuConvChains", "mnuFeet2Meters", "mnuConvArc",
+    "mnuReciprocal", "mnuConv",
+};
+
+const char kTyped[] = "NSEWLRBCOnsewlrbco0123456789.+- ";
+
+} // namespace
+
+TEST(Monkey, RandomSessionKeepsTheGridAndTheTableTogether)
+{
+    const long events = envNumber("QUILMAR_MONKEY_EVENTS", 700);
+    const auto seed = static_cast<unsigned>(envNumber("QUILMAR_MONKEY_SEED", 20261123));
+    std::mt19937 random(seed);
+    auto pick = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
+
+    const fs::path dir = fs::temp_directory_path() / ("quilmar_monkey_" + std::to_string(::getpid()));
+    fs::create_directories(dir);
+    ScriptedDialogs dialogs;
+    Plotter w(dialogs, startupOptionsIn(dir.string(), "quilmar", true));
+    w.resize(1100, 700);
+    w.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&w));
+    EntryGrid &grid = w.grid();
+
+    std::vector<std::string> log; // the last events, to say how a failure came about
+    for (long n = 0; n < events; ++n) {
+        // Answers for whatever the next event asks; files stay in the temporary folder.
+        static constexpr Answer kAnswers[] = {Answer::Ok, Answer::Cancel, Answer::Yes, Answer::No};
+        dialogs.answers.assign({kAnswers[pick(4)], kAnswers[pick(4)], kAnswers[pick(4)]});
+        dialogs.inputs.assign({pick(3) ? std::optional<std::string>(std::to_string(pick(500)) + "." + std::to_string(pick(99)))
+                                       : std::nullopt});
+        dialogs.files.assign({pick(4) ? std::optional<std::string>((dir / ("m" + std::to_string(pick(3)))).string())
+                                      : std::nullopt});
+
+        const int kind = pick(100);
+        QWidget *focus = QApplication::focusWidget();
+        log.push_back(std::to_string(n) + ": kind " + std::to_string(kind) + " in "
+                      + (focus ? focus->objectName().toStdString() : "-"));
+        if (log.size() > 12)
+            log.erase(log.begin());
+        if (kind < 45 && focus) {
+            static const Qt::Key kKeys[] = {Qt::Key_Tab, Qt::Key_Return, Qt::Key_Backspace, Qt::Key_Delete,
+                                            Qt::Key_Insert, Qt::Key_Left, Qt::Key_Right};
+            if (pick(5))
+                QTest::keyClick(focus, kTyped[pick(sizeof kTyped - 1)]);
+            else
+                QTest::keyClick(focus, kKeys[pick(7)]);
+        } else if (kind < 70) {
+            QTest::mouseClick(grid.field({pick(10), 1 + pick(10)}), Qt::LeftButton);
+        } else if (kind < 78) {
+            grid.scrollBar()->setValue(pick(192));
+        } else if (kind < 90) {
+            if (auto *a = w.findChild<QAction *>(kCommands[pick(std::size(kCommands))]); a && a->isVisible() && a->isEnabled())
+                a->trigger();
+        } else if (kind < 94) {
+            if (auto *b = w.findChild<QPushButton *>(pick(2) ? "CommandInsert" : "CommandDelete"))
+                QTest::mouseClick(b, Qt::LeftButton);
+        } else if (kind < 97) {
+            if (auto *r = w.findChild<QRadioButton *>(QString("metrix_%1").arg(pick(3))))
+                QTest::mouseClick(r, Qt::LeftButton);
+        } else {
+            if (auto *s = w.findChild<QComboBox *>("Scalebox"); s && s->count() > 1)
+                s->setCurrentIndex(pick(s->count() - 1)); // not "Custom": it asks through an input box
+        }
+        if (QMenu *tags = grid.tagMenu(); tags && tags->isVisible()) {
+            if (pick(2)) {
+                QAction *item = tags->actions().at(pick(static_cast<int>(tags->actions().size())));
+                log.push_back("  tag menu " + item->text().toStdString());
+                item->trigger();
+            }
+            tags->hide();
+        }
+
+        if (std::getenv("QUILMAR_MONKEY_TRACE")) {
+            const auto rf = grid.rules().focused();
+            QWidget *qf = QApplication::focusWidget();
+            fprintf(stderr, "%ld kind %d: qt %s rules %s\n", n, kind, qf ? qf->objectName().toUtf8().constData() : "-",
+                    rf ? (std::to_string(rf->row) + "," + std::to_string(rf->column)).c_str() : "-");
+        }
+        const int scroll = grid.scrollBar()->value();
+        // The field the rules count as focused (a tag menu may hold Qt's focus).
+        const std::optional<FieldRef> editing = grid.rules().focused();
+        for (int r = 0; r < GridRules::kVisibleRows; ++r) {
+            for (int c = 1; c <= CourseTable::kColumns; ++c) {
+                // Texts that reach the table only when their field is left: the
+                // focused field's, and the tag that the tag menu writes into the
+                // current row's tag field (also when a failed row check took the
+                // focus elsewhere; the letter then waits in the field).
+                QLineEdit *field = grid.field({r, c});
+                if (editing == FieldRef{r, c} || (r == grid.rules().currentRow() && c == ColTag)
+                    || field == QApplication::focusWidget())
+                    continue;
+                ASSERT_EQ(field->text().toStdString(), cellText(w.engine().table().at(scroll + r, c)))
+                    << "event " << n << " (seed " << seed << "), row " << scroll + r << " column " << c
+                    << " focused " << (editing ? std::to_string(editing->row) + "," + std::to_string(editing->column) : "none")
+                    << " current row " << grid.rules().currentRow() << "\n" << ::testing::PrintToString(log);
+            }
+        }
+    }
+    fs::remove_all(dir);
+}
