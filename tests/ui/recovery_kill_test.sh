@@ -11,9 +11,9 @@ export XDG_DATA_HOME="$home/data"
 recovery="$home/data/quilmar/recovery.map"
 cat > "$home/session.sh" <<INNER
 set -u
-"$quilmar" >/dev/null 2>&1 &
+QT_QPA_PLATFORM=xcb "$quilmar" >/dev/null 2>&1 &
 pid=\$!
-for _ in \$(seq 1 100); do
+for _ in \$(seq 1 300); do
   win=\$(xdotool search --name "Quilmar Deed Plotter" 2>/dev/null | head -n 1) && [ -n "\$win" ] && break
   sleep 0.1
 done
@@ -25,7 +25,7 @@ xdotool type --delay 30 "45"
 xdotool key Tab Tab Tab Tab
 xdotool type --delay 30 "123.5"
 xdotool key Tab
-for _ in \$(seq 1 100); do
+for _ in \$(seq 1 300); do
   [ -s "$recovery" ] && break
   sleep 0.1
 done
