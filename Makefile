@@ -25,7 +25,7 @@ build: configure
 	cmake --build $(BUILD) -j $(JOBS)
 
 # The suite, then the suite again under the sanitizers, then a short fuzzing run.
-test: test-main
+test: test-main test-asan fuzz
 
 test-main: build
 	cd $(BUILD) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
