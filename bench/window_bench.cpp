@@ -27,6 +27,8 @@ public:
     {
         return std::nullopt;
     }
+    bool print(const std::string &, const quilmar::Printout &) override { return false; }
+    void preview(const std::string &, const quilmar::Printout &) override {}
 };
 
 void BM_LeaveChangedDistance(benchmark::State &state)

@@ -5,14 +5,30 @@
 // queue and record what was asked (ScriptedDialogs). A dialog never reaches
 // into the engine; it only returns values.
 
+#include <functional>
 #include <optional>
 #include <string>
 
 #include "prompter.h"
+#include "surface.h"
 
 namespace quilmar {
 
 enum class FileMode { Open, Save };
+
+/// The sheet a printout paints on: its surface in twips from the top-left of
+/// the printable area, the printable size, the copies the user asked for, and
+/// how to start the next sheet.
+struct PrintSheet {
+    Surface &surface;
+    float width = 0.0f;  ///< printable width, twips
+    float height = 0.0f; ///< printable height, twips
+    int copies = 1;      ///< 1 or more; the printout repeats itself, the printer prints each sheet once
+    std::function<void()> newPage;
+};
+
+/// Paints a whole printout (every copy, every page) on a sheet.
+using Printout = std::function<void(PrintSheet &sheet)>;
 
 class Dialogs : public Prompter {
 public:
@@ -27,6 +43,14 @@ public:
     ///          dialog does not ask about overwriting: the caller does.
     virtual std::optional<std::string> fileName(FileMode mode, const std::string &filter,
                                                 const std::string &folder) = 0;
+
+    /// The print dialog (no selection, no page numbers). On OK, paints
+    /// @p printout on the printer or PDF file chosen there, with its copies.
+    /// @returns false when the dialog was cancelled: nothing was printed.
+    virtual bool print(const std::string &jobName, const Printout &printout) = 0;
+    /// Qt's print preview of @p printout; nothing is printed unless the user
+    /// prints from the preview.
+    virtual void preview(const std::string &jobName, const Printout &printout) = 0;
 
     /// A message box with OK only.
     void message(const std::string &text, Icon icon) { ask(text, kTitle, Buttons::Ok, icon); }

@@ -70,8 +70,7 @@ Plotter::Plotter(Dialogs &dialogs, const StartupOptions &options, QWidget *paren
     fillScalebox();
     // Start-up shows the one pair of area commands that fits the regional measure.
     const bool metric = !options.englishMeasure;
-    m_acresAction->setVisible(!metric);
-    m_hectaresAction->setVisible(metric);
+    showUnitEntries(metric);
     selectUnits(metric ? 1 : 0);
     m_scalebox->addItem("Custom");
     // Selecting "Standard" at start-up does not draw: only a user's choice does.
@@ -199,77 +198,6 @@ QWidget *Plotter::buildCentral()
     return central;
 }
 
-void Plotter::buildMenus()
-{
-    auto action = [this](QMenu *menu, const char *name, const char *caption, QKeySequence key, auto slot) {
-        QAction *a = menu->addAction(caption);
-        a->setObjectName(name);
-        if (!key.isEmpty())
-            a->setShortcut(key);
-        connect(a, &QAction::triggered, this, slot);
-        return a;
-    };
-    m_fileMenu = menuBar()->addMenu("&File");
-    m_fileMenu->setObjectName("Filemenu");
-    action(m_fileMenu, "mnuNew", "&New", {}, [this] { Toolbar_Click(2); });
-    action(m_fileMenu, "fileopen", "Open &File...", QKeySequence("Ctrl+F"), [this] { fileopen_Click(); });
-    m_saveAs = action(m_fileMenu, "Filesave", "&Save As...", QKeySequence("Ctrl+S"), [this] { saveit(1); });
-    m_backup = action(m_fileMenu, "mnuBackup", "Quick &Backup", QKeySequence("Ctrl+B"), [this] { saveit(2); });
-    m_fileMenu->addSeparator();
-    // The print and clipboard entries (Ctrl+O, Ctrl+P, Ctrl+D, Ctrl+Y) come here.
-    action(m_fileMenu, "Exitmenu", "E&xit ", {}, [this] { Exitmenu_Click(); });
-    connect(m_fileMenu, &QMenu::aboutToShow, this, &Plotter::Filemenu_Click);
-
-    m_editMenu = menuBar()->addMenu("&Edit");
-    m_editMenu->setObjectName("Editmenu");
-    m_undo = action(m_editMenu, "EditUndo", "&Undo", QKeySequence("Ctrl+Z"), [this] { editAction(0); });
-    m_editMenu->addSeparator();
-    m_cut = action(m_editMenu, "Editcut", "Cu&t", QKeySequence("Ctrl+X"), [this] { editAction(1); });
-    m_copy = action(m_editMenu, "Editcopy", "&Copy", QKeySequence("Ctrl+C"), [this] { editAction(2); });
-    m_paste = action(m_editMenu, "Editpaste", "&Paste", QKeySequence("Ctrl+V"), [this] { editAction(3); });
-    m_editMenu->addSeparator();
-    action(m_editMenu, "mnuDeleteEntry", "&Delete Active Entry", QKeySequence("Shift+Del"), [this] { Toolbar_Click(1); });
-    action(m_editMenu, "mnuDeleteAll", "Delete &ALL Entries", {}, [this] { Toolbar_Click(2); });
-    connect(m_editMenu, &QMenu::aboutToShow, this, &Plotter::Editmenu_Click);
-    // Shortcuts keep working between openings of the menu.
-    connect(m_editMenu, &QMenu::aboutToHide, this, [this] {
-        for (QAction *a : {m_undo, m_cut, m_copy, m_paste})
-            a->setEnabled(true);
-    });
-
-    // The Conversions menu comes here.
-    QMenu *map = menuBar()->addMenu("&Map");
-    map->setObjectName("mnuView");
-    action(map, "mnuRedraw", "&Re-draw Map", QKeySequence("F8"), [this] { Toolbar_Click(0); });
-    m_acresAction = action(map, "mnuAcres", "Calculate &Acres", QKeySequence("Ctrl+A"), [this] { mnuAcres_Click(); });
-    m_hectaresAction =
-        action(map, "mnuHectares", "Calculate &Hectares", QKeySequence("Ctrl+H"), [this] { mnuHectares_Click(); });
-    action(map, "mnuGap", "Calculate &Gap", QKeySequence("Ctrl+G"), [this] { mnuGap_Click(); });
-    action(map, "mnuPeri", "Calculate Peri&meter", QKeySequence("Ctrl+M"), [this] { mnuPeri_Click(); });
-    map->addSeparator();
-    action(map, "addScale", "Add  Customized &Scale", {}, [this] { addScale_Click(); });
-    // "&Magnify" and the Help menu come here.
-}
-
-void Plotter::buildToolbar()
-{
-    QToolBar *bar = addToolBar("Toolbar");
-    bar->setObjectName("Toolbar");
-    bar->setMovable(false);
-    const char *tips[] = {"Re-draw Map (F8)", "Clear Line (Row)", "Clear All"};
-    const QStyle::StandardPixmap icons[] = {QStyle::SP_BrowserReload, QStyle::SP_LineEditClearButton,
-                                            QStyle::SP_TrashIcon};
-    // Buttons 3 to 6 (print, area, perimeter, gap) come with their commands.
-    for (int i = 0; i < 3; ++i) {
-        QAction *a = bar->addAction(style()->standardIcon(icons[i]), tips[i]);
-        a->setToolTip(tips[i]);
-        a->setObjectName(QString("Toolbar_%1").arg(i));
-        bar->widgetForAction(a)->setObjectName(QString("Toolbar_%1").arg(i));
-        connect(a, &QAction::triggered, this, [this, i] { Toolbar_Click(i); });
-        m_actions[i] = a;
-    }
-}
-
 void Plotter::fillScalebox()
 {
     m_scalebox->addItems({"Minimum", "Small", "Standard", "Maximum"});
@@ -368,6 +296,22 @@ void Plotter::Toolbar_Click(int index)
             m_grid->setScroll(0);
         }
         break;
+    case 3:
+        FilePrintmap_Click();
+        return;
+    case 4:
+        // Feet give acres; every other unit gives hectares.
+        if (m_engine.metricFactor() == 1.0f)
+            mnuAcres_Click();
+        else
+            mnuHectares_Click();
+        return;
+    case 5:
+        mnuPeri_Click();
+        return;
+    case 6:
+        mnuGap_Click();
+        return;
     case 7:
         Exitmenu_Click();
         return;

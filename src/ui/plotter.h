@@ -7,13 +7,23 @@
 // The engine is used through a few private members only (draw(), the file
 // commands, the result texts), so that a change of its interface stays here.
 
-#include <QMainWindow>
+#include <functional>
 
+#include <QImage>
+#include <QMainWindow>
+#include <QPointer>
+#include <QTextBrowser>
+
+#include "curve_calculator.h"
 #include "dialogs.h"
 #include "engine.h"
+#include "shortcut_conversion.h"
 #include "startup.h"
+#include "unit_converter.h"
 
 class QAction;
+class QKeySequence;
+
 class QButtonGroup;
 class QComboBox;
 class QLabel;
@@ -26,6 +36,8 @@ namespace quilmar {
 
 class EntryGrid;
 class MapCanvas;
+class PrintOptionsDialog;
+class ZoomForm;
 
 class Plotter : public QMainWindow {
     Q_OBJECT
@@ -57,6 +69,39 @@ public:
     void mnuGap_Click();
     void mnuPeri_Click();
 
+    // File: printing and the clipboard (plotter_commands.cpp)
+    void mnuPrintOptions_Click();
+    void FilePrintmap_Click();
+    void FilePrint_Click();
+    void previewMap();
+    void previewData();
+    void Fileprinttext_Click();
+    void filemakebmp_Click();
+    // Conversions
+    void convert(UnitConverter converter);
+    void shortcut(ShortcutConversion which);
+    void calculate(CurveCalculator calculator);
+    void mnuReciprocal_Click();
+    void mnuGlobal1_Click();
+    void mnuGlobal2_Click(int index);
+    // Map and Help
+    void mnuMagnify_Click();
+    void helpsubmenu_Click();
+    void mnuManual_Click();
+    void demosample_Click(int n);
+    void mnuAbout_Click();
+
+    /// The print options dialog while it is shown (null otherwise).
+    PrintOptionsDialog *printOptionsDialog() const;
+    /// The zoom window once Magnify has created it.
+    ZoomForm *zoomForm() const;
+    /// The help window once Help... has opened it.
+    QTextBrowser *helpWindow() const { return m_help; }
+    /// The manual the Manual command opens: "manual.rtf" in the program's folder.
+    std::string manualPath() const { return m_options.programFolder + "manual.rtf"; }
+    /// Opens a file with the desktop's program for it; replaceable by tests.
+    std::function<bool(const std::string &path)> openWithDesktop;
+
     /// The file Quick Backup writes.
     std::string backupPath() const { return m_options.backupFolder + "backup.map"; }
 
@@ -67,6 +112,15 @@ protected:
 private:
     void buildMenus();
     void buildToolbar();
+    QAction *addEntry(QMenu *menu, const char *name, const char *caption, const QKeySequence &key,
+                      std::function<void()> command);
+    /// Shows the converters and area command of the start-up's unit mode.
+    void showUnitEntries(bool metric);
+    /// Applies a converter's or calculator's result: messages, clipboard, Acresbox, field.
+    void applyResult(const CalcResult &result);
+    /// The map canvas size in twips, for the engine's fit.
+    void fitToCanvas(float scale = 1.0f);
+    void refreshVisibleRows();
     QWidget *buildCentral();
     void fillScalebox();
     void selectUnits(int index);
@@ -96,13 +150,16 @@ private:
     QPlainTextEdit *m_headerbox = nullptr;
     QComboBox *m_scalebox = nullptr;
     QRadioButton *m_metrix[3] = {};
-    QAction *m_actions[8] = {}; ///< toolbar buttons 0 to 2 (3 to 6 come with their commands)
+    QAction *m_actions[8] = {}; ///< toolbar buttons 0 to 6; 7 (Exit) has none
     QMenu *m_fileMenu = nullptr;
     QMenu *m_editMenu = nullptr;
     QAction *m_saveAs = nullptr, *m_backup = nullptr;
     QAction *m_undo = nullptr, *m_cut = nullptr, *m_copy = nullptr, *m_paste = nullptr;
     QAction *m_acresAction = nullptr, *m_hectaresAction = nullptr;
     bool m_exiting = false;
+    QPointer<PrintOptionsDialog> m_printOptionsDialog;
+    QPointer<ZoomForm> m_zoom;
+    QPointer<QTextBrowser> m_help;
 };
 
 } // namespace quilmar

@@ -3,7 +3,13 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
 #include <QStringList>
+
+#include "qt_painter_surface.h"
 
 namespace quilmar {
 
@@ -23,7 +29,50 @@ QMessageBox::Icon qtIcon(Icon icon)
     return QMessageBox::NoIcon;
 }
 
+// Paints @p printout on @p printer: twips from the top-left of the printable
+// area, each copy painted by the printout itself.
+void paintOn(QPrinter &printer, const Printout &printout, int copies)
+{
+    QPainter painter;
+    if (!painter.begin(&printer))
+        return;
+    const double dpi = printer.resolution();
+    QtPainterSurface surface(painter, DeviceMapping::forDotsPerInch(0.0f, 0.0f, dpi));
+    const QRectF area = printer.pageLayout().paintRectPixels(printer.resolution());
+    PrintSheet sheet{surface, float(area.width() / dpi * 1440.0), float(area.height() / dpi * 1440.0),
+                     copies < 1 ? 1 : copies, [&printer] { printer.newPage(); }};
+    printout(sheet);
+    painter.end();
+}
+
 } // namespace
+
+bool QtDialogs::print(const std::string &jobName, const Printout &printout)
+{
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(q(jobName));
+    QPrintDialog dialog(&printer, m_parent);
+    // No selection and no page numbers; printing to a PDF file stays offered.
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    // Each copy is painted whole (arrow, caption, list), so the printer prints every sheet once.
+    const int copies = printer.copyCount();
+    printer.setCopyCount(1);
+    paintOn(printer, printout, copies);
+    return true;
+}
+
+void QtDialogs::preview(const std::string &jobName, const Printout &printout)
+{
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(q(jobName));
+    QPrintPreviewDialog dialog(&printer, m_parent);
+    dialog.setWindowTitle(q(jobName));
+    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
+                     [&printout](QPrinter *p) { paintOn(*p, printout, 1); });
+    dialog.exec();
+}
 
 Answer QtDialogs::ask(const std::string &text, const std::string &title, Buttons buttons, Icon icon)
 {

@@ -19,6 +19,8 @@ public:
     std::optional<std::string> inputBox(const std::string &prompt, const std::string &title,
                                         const std::string &initial) override;
     std::optional<std::string> fileName(FileMode mode, const std::string &filter, const std::string &folder) override;
+    bool print(const std::string &jobName, const Printout &printout) override;
+    void preview(const std::string &jobName, const Printout &printout) override;
 
 private:
     QWidget *m_parent;

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "dialogs.h"
+#include "recording_surface.h"
 
 namespace quilmar {
 
@@ -25,6 +26,13 @@ public:
     std::deque<std::optional<std::string>> files;
     std::vector<AskedBox> asked;
     std::vector<std::string> prompts; ///< input boxes and file dialogs, in order
+    std::vector<std::string> titles;  ///< titles of the input boxes, in order
+    /// Answers of the print dialog: false cancels; true (also when empty) prints.
+    std::deque<bool> printAnswers;
+    int copies = 1;                   ///< the copies the print dialog "chooses"
+    std::vector<std::string> printJobs; ///< print and preview jobs, "print NAME" / "preview NAME"
+    RecordingSurface printed;         ///< what the last printout painted
+    int printedPages = 0;             ///< sheets of the last printout
 
     Answer ask(const std::string &text, const std::string &, Buttons buttons, Icon icon) override
     {
@@ -35,15 +43,31 @@ public:
         answers.pop_front();
         return a;
     }
-    std::optional<std::string> inputBox(const std::string &prompt, const std::string &, const std::string &) override
+    std::optional<std::string> inputBox(const std::string &prompt, const std::string &title, const std::string &) override
     {
         prompts.push_back(prompt);
+        titles.push_back(title);
         return take(inputs);
     }
     std::optional<std::string> fileName(FileMode, const std::string &filter, const std::string &) override
     {
         prompts.push_back(filter);
         return take(files);
+    }
+    bool print(const std::string &jobName, const Printout &printout) override
+    {
+        printJobs.push_back("print " + jobName);
+        const bool ok = printAnswers.empty() || printAnswers.front();
+        if (!printAnswers.empty())
+            printAnswers.pop_front();
+        if (ok)
+            paint(printout, copies);
+        return ok;
+    }
+    void preview(const std::string &jobName, const Printout &printout) override
+    {
+        printJobs.push_back("preview " + jobName);
+        paint(printout, 1);
     }
     /// The texts of the boxes shown so far; clears the record.
     std::vector<std::string> texts()
@@ -56,6 +80,14 @@ public:
     }
 
 private:
+    // A Letter sheet less a quarter inch all round.
+    void paint(const Printout &printout, int n)
+    {
+        printed = RecordingSurface();
+        printedPages = 1;
+        PrintSheet sheet{printed, 11520.0f, 15120.0f, n, [this] { ++printedPages; }};
+        printout(sheet);
+    }
     static std::optional<std::string> take(std::deque<std::optional<std::string>> &q)
     {
         if (q.empty())

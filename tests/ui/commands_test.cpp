@@ -1,0 +1,457 @@
+// The window's menus, toolbar and commands (offscreen platform), every
+// question answered by ScriptedDialogs.
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QTest>
+#include <QTextBrowser>
+#include <QToolBar>
+#include <gtest/gtest.h>
+
+#include "entry_grid.h"
+#include "map_canvas.h"
+#include "plotter.h"
+#include "print_options_dialog.h"
+#include "scripted_dialogs.h"
+#include "zoom_form.h"
+
+using namespace quilmar;
+namespace fs = std::filesystem;
+
+namespace {
+
+class Commands : public ::testing::Test {
+protected:
+    fs::path dir = fs::temp_directory_path() /
+                   ("quilmar_cmd_" + std::to_string(::getpid()) + ::testing::UnitTest::GetInstance()->current_test_info()->name());
+    ScriptedDialogs dialogs;
+    std::unique_ptr<Plotter> w;
+
+    void SetUp() override
+    {
+        fs::create_directories(dir);
+        start(true);
+    }
+    void TearDown() override
+    {
+        w.reset();
+        fs::remove_all(dir);
+    }
+    void start(bool english)
+    {
+        w.reset();
+        w = std::make_unique<Plotter>(dialogs, startupOptionsIn(dir.string() + "/", "quilmar", english));
+        w->resize(1100, 700);
+        w->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(w.get()));
+    }
+    QAction *action(const char *name) { return w->findChild<QAction *>(name); }
+    void trigger(const char *name)
+    {
+        QAction *a = action(name);
+        ASSERT_NE(a, nullptr) << name;
+        a->trigger();
+    }
+    std::string acres() { return w->findChild<QLabel *>("Acresbox")->text().toStdString(); }
+    std::string clipboard() { return QApplication::clipboard()->text().toStdString(); }
+    QLineEdit *field(int row, int column) { return w->grid().field({row, column}); }
+    bool printedText(const std::string &needle)
+    {
+        const auto &calls = dialogs.printed.calls();
+        return std::any_of(calls.begin(), calls.end(),
+                           [&](const std::string &c) { return c.find(needle) != std::string::npos; });
+    }
+};
+
+// One menu as "name|caption|shortcut" lines, "-" for a separator (with "(hidden)" when hidden).
+std::vector<std::string> entries(QMenu *menu)
+{
+    std::vector<std::string> out;
+    for (QAction *a : menu->actions()) {
+        std::string line = a->isSeparator()
+                               ? std::string("-")
+                               : a->objectName().toStdString() + "|" + a->text().toStdString() + "|" +
+                                     a->shortcut().toString().toStdString();
+        if (!a->isVisible())
+            line += " (hidden)";
+        out.push_back(line);
+    }
+    return out;
+}
+
+} // namespace
+
+TEST_F(Commands, TheMenuTreeWithNamesCaptionsShortcutsAndHiddenEntries)
+{
+    const std::vector<std::pair<const char *, std::vector<std::string>>> menus = {
+        {"Filemenu",
+         {"mnuNew|&New|", "fileopen|Open &File...|Ctrl+F", "Filesave|&Save As...|Ctrl+S",
+          "mnuBackup|Quick &Backup|Ctrl+B", "-", "mnuPrintOptions|Print &Options...|Ctrl+O",
+          "FilePrintmap|&Print Map...|Ctrl+P", "FilePrint|Print &Data...|Ctrl+D",
+          "FilePreviewmap|Print Pre&view...|", "FilePreviewdata|Print Preview of Dat&a...|",
+          "Fileprinttext|Cop&y Data to Clipboard|Ctrl+Y", "filemakebmp|Copy Map to Clipboard (bmp)|",
+          "- (hidden)", "mnuSetup|Set&up...| (hidden)", "-", "Exitmenu|E&xit |"}},
+        {"Editmenu",
+         {"EditUndo|&Undo|Ctrl+Z", "-", "Editcut|Cu&t|Ctrl+X", "Editcopy|&Copy|Ctrl+C", "Editpaste|&Paste|Ctrl+V",
+          "-", "mnuDeleteEntry|&Delete Active Entry|Shift+Del", "mnuDeleteAll|Delete &ALL Entries|"}},
+        {"mnuConversions",
+         {"mnuConvChains|Chains|", "mnuConvLinks|Links|", "mnuConvRods|Rods|", "mnuConvPerches|Perches|",
+          "mnuConvFurlongs|Furlongs|", "mnuVaras|Varas|", "mnuConvYards|Yards| (hidden)",
+          "mnuFeet2Meters|Feet to Meters|", "mnuMeters2Feet|Meters to Feet|", "-",
+          "mnuConv|Shortcut Conversion (Chains/Links)|Ctrl+F5", "mnuConv2|Shortcut Conversion (Perches, Rods)|Ctrl+F7",
+          "mnuConv3|Shortcut Conversion (Varas)|Ctrl+F8", "-", "mnuReciprocal|Reciprocal Angle|",
+          "mnuConvArc|Give me Arc|", "mnuConvChord|Give me Chord|", "mnuConvAngle|Give me Angle|",
+          "mnuConvTangent|Chord Angle - Tangent |", "-", "mnuGlobalconv|Global Conversion|"}},
+        {"mnuGlobalconv",
+         {"mnuGlobal1|From Feet to Meters|", "mnuGlobal2_0|From Meters to Feet|",
+          "mnuGlobal2_1|From Chains/Links to Feet|", "mnuGlobal2_2|From Rods or Perches to Feet|",
+          "mnuGlobal2_3|From Furlongs to Feet|", "mnuGlobal2_4|From Varas to Feet|",
+          "mnuGlobal2_5|From Yards to Feet|"}},
+        {"mnuPopUp",
+         {"mnuPopup1|&None (Clear)|", "mnuPopup2|Point of &Beginning (POB)|", "mnuPopup3|Back to POB (&Close)|",
+          "mnuPopup4|&New Lot|", "mnuPopUp5|Point of &Origin|"}},
+        {"mnuView",
+         {"mnuRedraw|&Re-draw Map|F8", "mnuAcres|Calculate &Acres|Ctrl+A", "mnuHectares|Calculate &Hectares|Ctrl+H (hidden)",
+          "mnuGap|Calculate &Gap|Ctrl+G", "mnuPeri|Calculate Peri&meter|Ctrl+M", "-",
+          "addScale|Add  Customized &Scale|", "mnuMagnify|&Magnify|"}},
+        {"helpmenu",
+         {"helpsubmenu|Help...|", "mnuManual|Manual...|", "-", "demosample1|Demo Sample &1|",
+          "demosample2|Demo Sample &2|", "demosample3|Demo Sample &3|", "demosample4|Demo Sample &4|",
+          "demosample5|Demo Sample &5|", "demosample6|Demo Sample &6|", "-", "mnuAbout|&About...|"}},
+    };
+    for (const auto &[name, expected] : menus) {
+        QMenu *menu = w->findChild<QMenu *>(name);
+        ASSERT_NE(menu, nullptr) << name;
+        EXPECT_EQ(entries(menu), expected) << name;
+    }
+    // The bar: the tag menu is one of its menus but never shown there.
+    QStringList bar;
+    for (QAction *a : w->menuBar()->actions())
+        bar << a->text() + (a->isVisible() ? "" : " (hidden)");
+    EXPECT_EQ(bar.join(","), "&File,&Edit,C&onversions,Popup (hidden),&Map,&Help");
+
+    // The metric mode shows the other unit entries.
+    start(false);
+    for (const char *name : {"mnuConvChains", "mnuConvLinks", "mnuConvRods", "mnuConvPerches", "mnuConvFurlongs",
+                             "mnuConv", "mnuAcres"})
+        EXPECT_FALSE(action(name)->isVisible()) << name;
+    for (const char *name : {"mnuConvYards", "mnuHectares", "mnuVaras", "mnuConv2", "mnuConv3"})
+        EXPECT_TRUE(action(name)->isVisible()) << name;
+}
+
+TEST_F(Commands, ToolbarButtonsZeroToSixWithTheirTooltips)
+{
+    auto *bar = w->findChild<QToolBar *>("Toolbar");
+    QStringList tips;
+    for (QAction *a : bar->actions()) {
+        tips << a->toolTip();
+        EXPECT_FALSE(a->icon().isNull());
+        EXPECT_FALSE(a->icon().pixmap(48, 48).isNull()); // the vector icon renders at 200 %
+    }
+    EXPECT_EQ(tips.join("|"), "Re-draw Map (F8)|Clear Line (Row)|Clear All|Print Map|Calculate Area|"
+                              "Calculate Perimeter|Calculate Gap");
+
+    // Button 4 gives acres with feet and hectares with metres.
+    trigger("demosample4");
+    w->Toolbar_Click(4);
+    EXPECT_NE(acres().find("acres"), std::string::npos) << acres();
+    start(false);
+    trigger("demosample4");
+    w->Toolbar_Click(4);
+    EXPECT_NE(acres().find("Square Meters"), std::string::npos) << acres();
+    EXPECT_EQ(acres().find("acres"), std::string::npos);
+    // Button 3 prints the map.
+    dialogs.printAnswers = {false};
+    w->Toolbar_Click(3);
+    EXPECT_EQ(dialogs.printJobs, std::vector<std::string>{"print Quilmar map"});
+}
+
+TEST_F(Commands, ConvertersAndCalculatorsAskAndShowTheirResults)
+{
+    const struct {
+        const char *entry;
+        const char *answer;
+        const char *title;
+        const char *acresbox;  // nullptr: unchanged
+        const char *clipboard; // nullptr: unchanged
+        const char *message;   // nullptr: none
+    } cases[] = {
+        {"mnuConvChains", "10.05", "Conversion", "10.05 Chains = 663.3 feet", "663.3", nullptr},
+        {"mnuVaras", "1", "Conversion", "1 Varas = 2.7778 feet", "2.7778", nullptr},
+        {"mnuFeet2Meters", "3.281", "Conversion", "3.281 Feet = 1.0 Meters", "1.0", nullptr},
+        {"mnuMeters2Feet", "   ", "Conversion", nullptr, nullptr, nullptr},
+        {"mnuConvArc", "100 50", "Give me Arc", "Arc Length  = 157.0796", "157.0796", nullptr},
+        {"mnuConvArc", "100", "Give me Arc", nullptr, nullptr, "Invlid entry)"},
+        {"mnuConvArc", "100 49", "Give me Arc", nullptr, nullptr, "Chord cannot be longer than 2 x radius"},
+        {"mnuConvChord", "157.0796 50", "Give me Chord", nullptr, nullptr, nullptr},
+        {"mnuConvAngle", "50 26.96", "Conversion", nullptr, nullptr, nullptr},
+        {"mnuReciprocal", "45 10 20", "Reciprocal Angle", "Reciprocal of 45 10 20 = 44  49  40", nullptr, nullptr},
+        {"mnuReciprocal", "91 0 0", "Reciprocal Angle", nullptr, nullptr, "Incorrect Input"},
+    };
+    for (const auto &c : cases) {
+        w->findChild<QLabel *>("Acresbox")->setText("before");
+        QApplication::clipboard()->setText("before");
+        dialogs.titles.clear();
+        dialogs.inputs = {std::string(c.answer)};
+        trigger(c.entry);
+        ASSERT_EQ(dialogs.titles.size(), 1u) << c.entry;
+        EXPECT_EQ(dialogs.titles[0], c.title) << c.entry;
+        if (c.acresbox) {
+            EXPECT_EQ(acres(), c.acresbox) << c.entry;
+        }
+        if (c.clipboard) {
+            EXPECT_EQ(clipboard(), c.clipboard) << c.entry;
+        }
+        if (!c.acresbox && !c.clipboard && !c.message && std::string(c.entry) == "mnuMeters2Feet") {
+            EXPECT_EQ(acres(), "before");
+            EXPECT_EQ(clipboard(), "before");
+        }
+        const auto texts = dialogs.texts();
+        EXPECT_EQ(texts, c.message ? std::vector<std::string>{c.message} : std::vector<std::string>{}) << c.entry;
+    }
+    EXPECT_EQ(dialogs.prompts.back(),
+              "Enter angle (degrees, minutes, seconds) in the following format: dd mm ss.  Example 45 10 20");
+    // Cancel changes nothing and shows nothing.
+    w->findChild<QLabel *>("Acresbox")->setText("before");
+    dialogs.inputs = {std::nullopt};
+    trigger("mnuConvChord");
+    EXPECT_EQ(acres(), "before");
+    EXPECT_TRUE(dialogs.asked.empty());
+}
+
+TEST_F(Commands, ShortcutConversionRewritesTheFocusedField)
+{
+    field(0, 6)->setFocus();
+    QTest::keyClick(field(0, 6), '1');
+    trigger("mnuConv3");
+    EXPECT_EQ(field(0, 6)->text(), "2.7778");
+    trigger("mnuConv");
+    EXPECT_EQ(field(0, 6)->text(), "183.3348");
+    field(0, 6)->setText("abc");
+    w->grid().rules().setText({0, 6}, "abc");
+    trigger("mnuConv2");
+    EXPECT_EQ(field(0, 6)->text(), "abc");
+    EXPECT_TRUE(dialogs.asked.empty());
+}
+
+TEST_F(Commands, GlobalConversionAsksConvertsRefreshesAndSelectsTheUnit)
+{
+    w->engine().editTable().at(0, ColDistance) = Cell(std::string("100"));
+    w->engine().editTable().at(0, ColRadius) = Cell(std::string("10"));
+    w->grid().rules().populatefields();
+    w->grid().sync();
+    w->metrix_Click(1);
+    w->findChild<QRadioButton *>("metrix_1")->setChecked(true);
+
+    dialogs.answers = {Answer::No};
+    trigger("mnuGlobal2_0");
+    EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"This function will convert the entire table from Meters "
+                                                        "to Feet.  OK to proceed?"});
+    EXPECT_EQ(field(0, 6)->text(), "100");
+
+    const bool drawnBefore = w->engine().mapComputed();
+    dialogs.answers = {Answer::Yes};
+    trigger("mnuGlobal2_0");
+    EXPECT_EQ(field(0, 6)->text(), "328.1");
+    EXPECT_EQ(field(0, 8)->text(), "32.81");
+    EXPECT_TRUE(w->findChild<QRadioButton *>("metrix_0")->isChecked());
+    EXPECT_EQ(w->engine().units(), Units::Feet);
+    EXPECT_EQ(w->engine().mapComputed(), drawnBefore); // no redraw
+
+    dialogs.answers = {Answer::Yes};
+    trigger("mnuGlobal1");
+    EXPECT_EQ(field(0, 6)->text(), "100");
+    EXPECT_EQ(w->engine().units(), Units::Meters);
+
+    // A cell that is not a number ends the conversion with its own message.
+    dialogs.asked.clear();
+    w->engine().editTable().at(1, ColDistance) = Cell(std::string("abc"));
+    dialogs.answers = {Answer::Yes};
+    trigger("mnuGlobal2_5");
+    const auto texts = dialogs.texts();
+    ASSERT_EQ(texts.size(), 2u);
+    EXPECT_EQ(texts[1], "Type mismatch");
+    EXPECT_EQ(w->engine().units(), Units::Meters);
+}
+
+TEST_F(Commands, PrintOptionsDialogReloadsAndOnlyOkKeepsTheChoice)
+{
+    trigger("mnuPrintOptions");
+    PrintOptionsDialog *d = w->printOptionsDialog();
+    ASSERT_NE(d, nullptr);
+    EXPECT_EQ(d->objectName(), "Printoptions");
+    EXPECT_EQ(d->windowTitle(), "Print Options");
+    QStringList captions;
+    for (int i = 0; i < 5; ++i)
+        captions << d->check(i)->text() + "=" + QString::number(d->check(i)->isChecked());
+    EXPECT_EQ(captions.join(","),
+              "Reference Points=1,Reference List=1,Property Description=1,Frame=0,Balance Gap=0");
+    EXPECT_EQ(d->findChild<QPushButton *>("OKButton_0")->text(), "&OK");
+    EXPECT_EQ(d->findChild<QPushButton *>("OKButton_1")->text(), "&Cancel");
+
+    d->check(4)->setChecked(true);
+    QTest::mouseClick(d->findChild<QPushButton *>("OKButton_1"), Qt::LeftButton);
+    QApplication::processEvents();
+    EXPECT_EQ(w->engine().printOptions().balanceGap, 0);
+
+    trigger("mnuPrintOptions");
+    d = w->printOptionsDialog();
+    EXPECT_FALSE(d->check(4)->isChecked());
+    d->check(4)->setChecked(true);
+    d->check(0)->setChecked(false);
+    QTest::mouseClick(d->findChild<QPushButton *>("OKButton_0"), Qt::LeftButton);
+    EXPECT_EQ(w->engine().printOptions().balanceGap, 1);
+    EXPECT_EQ(w->engine().printOptions().referencePoints, 0);
+    trigger("mnuPrintOptions");
+    EXPECT_TRUE(w->printOptionsDialog()->check(4)->isChecked());
+    EXPECT_FALSE(w->printOptionsDialog()->check(0)->isChecked());
+}
+
+TEST_F(Commands, PrintMapAndDataThroughThePrintDialog)
+{
+    trigger("demosample1");
+    dialogs.printAnswers = {false};
+    trigger("FilePrintmap");
+    EXPECT_TRUE(dialogs.printed.calls().empty()); // cancelled: nothing printed
+
+    dialogs.copies = 2;
+    trigger("FilePrintmap");
+    EXPECT_EQ(dialogs.printedPages, 2); // each copy its own page
+    const auto &calls = dialogs.printed.calls();
+    EXPECT_EQ(std::count_if(calls.begin(), calls.end(),
+                            [](const std::string &c) { return c.find("Scale = 1:") != std::string::npos; }),
+              2);
+    EXPECT_TRUE(printedText("(Feet)"));
+    EXPECT_TRUE(printedText("TANGENTS"));   // the heading
+    EXPECT_TRUE(printedText("1  S 1000"));  // the reference list
+    EXPECT_TRUE(printedText("8  L Close"));
+    EXPECT_TRUE(w->engine().mapComputed());
+
+    dialogs.copies = 1;
+    trigger("FilePrint");
+    EXPECT_TRUE(printedText("Distance"));
+    EXPECT_TRUE(printedText("1000"));
+    EXPECT_TRUE(printedText("end"));
+
+    trigger("FilePreviewmap");
+    trigger("FilePreviewdata");
+    EXPECT_EQ(dialogs.printJobs, (std::vector<std::string>{"print Quilmar map", "print Quilmar map",
+                                                           "print Quilmar data", "preview Quilmar map",
+                                                           "preview Quilmar data"}));
+}
+
+TEST_F(Commands, ClipboardTextAndDoubleSizeBitmap)
+{
+    trigger("demosample6");
+    trigger("Fileprinttext");
+    EXPECT_EQ(clipboard(), "S 100\r\nS 45\xC2\xB0 E 75\r\nNew\r\nS 45\xC2\xB0 W 75\r\n Back to pob\r\n");
+
+    auto *canvas = w->findChild<MapCanvas *>("minmap");
+    const CanvasView before = w->engine().canvasView();
+    trigger("filemakebmp");
+    const QImage image = QApplication::clipboard()->image();
+    ASSERT_FALSE(image.isNull());
+    EXPECT_EQ(image.width(), 2 * canvas->width());
+    EXPECT_EQ(image.height(), 2 * canvas->height());
+    EXPECT_EQ(image.pixelColor(0, 0), QColor(Qt::white));
+    EXPECT_EQ(w->engine().canvasView().width, before.width); // the canvas as it was
+    EXPECT_EQ(w->engine().canvasView().scaleLeft, before.scaleLeft);
+}
+
+TEST_F(Commands, HelpManualSamplesAndAbout)
+{
+    trigger("helpsubmenu");
+    ASSERT_NE(w->helpWindow(), nullptr);
+    EXPECT_TRUE(w->helpWindow()->isVisible());
+    EXPECT_TRUE(w->helpWindow()->toPlainText().contains("Shortcut Conversion (Chains/Links)"));
+
+    trigger("mnuManual");
+    ASSERT_EQ(dialogs.asked.size(), 1u);
+    EXPECT_EQ(dialogs.asked[0].text, "Cannot find " + (dir / "manual.rtf").string() + " file.");
+    EXPECT_EQ(dialogs.asked[0].icon, Icon::None);
+    dialogs.asked.clear();
+    std::ofstream(dir / "manual.rtf") << "{\\rtf1 x}";
+    std::string opened;
+    w->openWithDesktop = [&](const std::string &p) { return opened = p, true; };
+    trigger("mnuManual");
+    EXPECT_EQ(opened, (dir / "manual.rtf").string());
+    w->openWithDesktop = [](const std::string &) { return false; };
+    trigger("mnuManual");
+    EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"Cannot find " + (dir / "manual.rtf").string() + " file."});
+
+    // A sample replaces a longer table without a question, and draws.
+    w->engine().editTable().at(40, ColDistance) = Cell(std::string("5"));
+    w->grid().setScroll(30);
+    trigger("demosample2");
+    EXPECT_TRUE(dialogs.asked.empty());
+    EXPECT_EQ(w->engine().table().at(40, ColDistance).text(), "");
+    EXPECT_EQ(field(0, 1)->text(), "S");
+    EXPECT_EQ(field(5, 7)->text(), "300");
+    EXPECT_EQ(w->grid().scrollBar()->value(), 0);
+    EXPECT_TRUE(w->findChild<QPlainTextEdit *>("Headerbox")->toPlainText().startsWith("This is a sample map."));
+    EXPECT_TRUE(w->engine().mapComputed());
+    EXPECT_EQ(w->engine().scaleText(), "Standard");
+
+    trigger("mnuAbout");
+    ASSERT_EQ(dialogs.asked.size(), 1u);
+    EXPECT_NE(dialogs.asked[0].text.find("Quilmar Deed Plotter\r\nVersion "), std::string::npos);
+}
+
+TEST_F(Commands, ZoomWindowDrawsRedrawsAndScrolls)
+{
+    trigger("demosample5");
+    trigger("mnuMagnify");
+    ZoomForm *z = w->zoomForm();
+    ASSERT_NE(z, nullptr);
+    EXPECT_EQ(z->objectName(), "Zoomform");
+    EXPECT_TRUE(z->isVisible());
+    EXPECT_FALSE(z->isModal());
+    EXPECT_FALSE(z->picture()->isBlank());
+    const float fitted = z->scaleFactor();
+    ASSERT_GT(fitted, 0.0f);
+
+    const struct {
+        bool button;
+        std::optional<std::string> answer;
+        double m;
+    } cases[] = {{true, std::nullopt, 0.95}, {true, "6.3", 1.0}, {false, "", 0.95}, {false, "2", 2.0}};
+    for (const auto &c : cases) {
+        dialogs.inputs = {c.answer};
+        if (c.button)
+            QTest::mouseClick(z->findChild<QPushButton *>("Redraw"), Qt::LeftButton);
+        else
+            z->mnuRedraw_Click();
+        EXPECT_NEAR(z->scaleFactor(), fitted / 0.95 * c.m, fitted * 1e-5) << c.m;
+    }
+    EXPECT_EQ(dialogs.prompts[0], ZoomForm::kButtonPrompt);
+    EXPECT_EQ(dialogs.prompts[2], ZoomForm::kMenuPrompt);
+
+    z->hScroll()->setSliderDown(true);
+    z->hScroll()->setValue(1500);
+    EXPECT_EQ(z->pictureOffset().x(), -1500);
+    z->hScroll()->setSliderDown(false);
+    EXPECT_EQ(z->pictureOffset().x(), -1440); // released: 60 twips back
+    z->vScroll()->setValue(3000);
+    EXPECT_EQ(z->pictureOffset().y(), -2940);
+
+    trigger("mnuMagnify"); // the same window again
+    EXPECT_EQ(w->zoomForm(), z);
+    EXPECT_TRUE(dialogs.asked.empty());
+}
