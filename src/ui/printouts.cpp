@@ -154,6 +154,7 @@ void printMapSheets(Engine &engine, PrintSheet &sheet)
         } catch (const VbError &) {
         }
         s.setScaleOrigin(0, 0);
+        s.setColour({0, 0, 0});
         if (listOn && !secondPage) {
             printList(engine, s, sheet.height - 360.0f - reserved, sheet.width);
         } else if (secondPage) {
@@ -185,10 +186,21 @@ void printDataSheets(const Engine &engine, PrintSheet &sheet)
     };
     s.setScaleOrigin(0, 0);
     s.setColour({0, 0, 0});
+    // The description wrapped by words to the columns of the listing.
+    const size_t width = size_t(std::max(10.0f, (sheet.width - 2 * kLeft) / kPitch));
     std::istringstream description(engine.description());
     for (std::string text; std::getline(description, text);) {
         if (!text.empty() && text.back() == '\r')
             text.pop_back();
+        while (text.size() > width) {
+            size_t cut = text.rfind(' ', width);
+            if (cut == std::string::npos || cut == 0)
+                cut = width;
+            s.text({kLeft, y}, 0, text.substr(0, cut));
+            next();
+            text.erase(0, cut);
+            text.erase(0, text.find_first_not_of(' ') == std::string::npos ? text.size() : text.find_first_not_of(' '));
+        }
         s.text({kLeft, y}, 0, text);
         next();
     }

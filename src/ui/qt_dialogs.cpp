@@ -29,8 +29,8 @@ QMessageBox::Icon qtIcon(Icon icon)
     return QMessageBox::NoIcon;
 }
 
-// Paints @p printout on @p printer: twips from the top-left of the printable
-// area, each copy painted by the printout itself.
+} // namespace
+
 void paintOn(QPrinter &printer, const Printout &printout, int copies)
 {
     QPainter painter;
@@ -44,8 +44,6 @@ void paintOn(QPrinter &printer, const Printout &printout, int copies)
     printout(sheet);
     painter.end();
 }
-
-} // namespace
 
 bool QtDialogs::print(const std::string &jobName, const Printout &printout)
 {

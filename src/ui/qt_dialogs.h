@@ -6,6 +6,7 @@
 
 #include <QString>
 
+class QPrinter;
 class QWidget;
 
 namespace quilmar {
@@ -25,6 +26,10 @@ public:
 private:
     QWidget *m_parent;
 };
+
+/// Paints @p printout on @p printer in twips from the top-left of the
+/// printable area; each of the @p copies is painted by the printout itself.
+void paintOn(QPrinter &printer, const Printout &printout, int copies);
 
 /// A classic "description|pattern|..." filter as a Qt name filter list
 /// ("Map data(*.map)|*.map" -> "Map data(*.map) (*.map)").
