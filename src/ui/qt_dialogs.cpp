@@ -2,7 +2,9 @@
 
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QBuffer>
 #include <QMessageBox>
+#include <QPdfWriter>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
@@ -10,6 +12,7 @@
 #include <QStringList>
 
 #include "qt_painter_surface.h"
+#include "safe_file.h"
 
 namespace quilmar {
 
@@ -31,18 +34,44 @@ QMessageBox::Icon qtIcon(Icon icon)
 
 } // namespace
 
-void paintOn(QPrinter &printer, const Printout &printout, int copies)
+bool paintOn(QPagedPaintDevice &device, int dotsPerInch, const Printout &printout, int copies)
 {
     QPainter painter;
-    if (!painter.begin(&printer))
-        return;
-    const double dpi = printer.resolution();
+    if (!painter.begin(&device))
+        return false;
+    const double dpi = dotsPerInch;
     QtPainterSurface surface(painter, DeviceMapping::forDotsPerInch(0.0f, 0.0f, dpi));
-    const QRectF area = printer.pageLayout().paintRectPixels(printer.resolution());
+    const QRectF area = device.pageLayout().paintRectPixels(dotsPerInch);
     PrintSheet sheet{surface, float(area.width() / dpi * 1440.0), float(area.height() / dpi * 1440.0),
-                     copies < 1 ? 1 : copies, [&printer] { printer.newPage(); }};
+                     copies < 1 ? 1 : copies, [&device] { device.newPage(); }};
     printout(sheet);
-    painter.end();
+    return painter.end();
+}
+
+void paintOn(QPrinter &printer, const Printout &printout, int copies)
+{
+    paintOn(printer, printer.resolution(), printout, copies);
+}
+
+bool writePrintoutPdf(const QString &path, const QPageLayout &layout, const Printout &printout, int copies,
+                      std::string &error)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&buffer);
+        writer.setCreator(QStringLiteral("Quilmar Deed Plotter"));
+        writer.setResolution(600);
+        writer.setPageLayout(layout);
+        if (!paintOn(writer, 600, printout, copies)) {
+            error = "cannot draw the PDF";
+            return false;
+        }
+    }
+    const FileOutcome outcome = writeFileSafely(path.toStdString(),
+                                                std::string_view(buffer.data().constData(), size_t(buffer.size())));
+    error = outcome.error;
+    return outcome.ok;
 }
 
 bool QtDialogs::print(const std::string &jobName, const Printout &printout)
@@ -57,6 +86,12 @@ bool QtDialogs::print(const std::string &jobName, const Printout &printout)
     // Each copy is painted whole (arrow, caption, list), so the printer prints every sheet once.
     const int copies = printer.copyCount();
     printer.setCopyCount(1);
+    if (printer.outputFormat() == QPrinter::PdfFormat && !printer.outputFileName().isEmpty()) {
+        std::string error;
+        if (!writePrintoutPdf(printer.outputFileName(), printer.pageLayout(), printout, copies, error))
+            ask(error, kTitle, Buttons::Ok, Icon::Exclamation);
+        return true;
+    }
     paintOn(printer, printout, copies);
     return true;
 }

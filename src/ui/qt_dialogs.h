@@ -6,6 +6,7 @@
 
 #include <QString>
 
+class QPageLayout;
 class QPrinter;
 class QWidget;
 
@@ -30,6 +31,13 @@ private:
 /// Paints @p printout on @p printer in twips from the top-left of the
 /// printable area; each of the @p copies is painted by the printout itself.
 void paintOn(QPrinter &printer, const Printout &printout, int copies);
+
+/// The printout as a PDF file at @p path on pages of @p layout, written through
+/// the writer of every file (a temporary file renamed over the target, so a
+/// failure leaves an old file as it was).
+/// @param error  receives the reason when it fails
+bool writePrintoutPdf(const QString &path, const QPageLayout &layout, const Printout &printout, int copies,
+                      std::string &error);
 
 /// A classic "description|pattern|..." filter as a Qt name filter list
 /// ("Map data(*.map)|*.map" -> "Map data(*.map) (*.map)").

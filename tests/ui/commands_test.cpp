@@ -16,6 +16,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPageLayout>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -29,6 +30,8 @@
 #include "map_canvas.h"
 #include "plotter.h"
 #include "print_options_dialog.h"
+#include "printouts.h"
+#include "qt_dialogs.h"
 #include "scripted_dialogs.h"
 #include "zoom_form.h"
 
@@ -454,4 +457,35 @@ TEST_F(Commands, ZoomWindowDrawsRedrawsAndScrolls)
     trigger("mnuMagnify"); // the same window again
     EXPECT_EQ(w->zoomForm(), z);
     EXPECT_TRUE(dialogs.asked.empty());
+}
+
+TEST_F(Commands, TheMapPrintoutAsAPdfReadBackAndExitAsButtonSeven)
+{
+    trigger("demosample4");
+    const fs::path pdf = dir / "map.pdf";
+    std::string error;
+    const QPageLayout letter(QPageSize(QPageSize::Letter), QPageLayout::Portrait, QMarginsF(0.25, 0.25, 0.25, 0.25),
+                             QPageLayout::Inch);
+    ASSERT_TRUE(writePrintoutPdf(QString::fromStdString(pdf.string()), letter,
+                                 [this](PrintSheet &sheet) { printMapSheets(w->engine(), sheet); }, 1, error))
+        << error;
+    const std::string command = "pdftotext " + pdf.string() + " " + (dir / "map.txt").string();
+    ASSERT_EQ(std::system(command.c_str()), 0);
+    std::ifstream in(dir / "map.txt");
+    const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    EXPECT_NE(text.find("Scale = 1:"), std::string::npos) << text;
+    EXPECT_NE(text.find("(Feet)"), std::string::npos);
+    EXPECT_NE(text.find("E 1000"), std::string::npos);
+    EXPECT_NE(text.find("New"), std::string::npos);
+    // A folder that does not exist: a reason, no file.
+    EXPECT_FALSE(writePrintoutPdf(QString::fromStdString((dir / "none" / "x.pdf").string()), letter,
+                                  [](PrintSheet &) {}, 1, error));
+    EXPECT_FALSE(error.empty());
+
+    // Button 7 is Exit: with the top row's N/S field empty it asks nothing.
+    w->Toolbar_Click(2);
+    dialogs.asked.clear();
+    w->Toolbar_Click(7);
+    EXPECT_TRUE(dialogs.asked.empty());
+    EXPECT_FALSE(w->isVisible());
 }
