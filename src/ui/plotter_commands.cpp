@@ -14,7 +14,8 @@
 #include <QTextBrowser>
 #include <QUrl>
 
-#include "canvas_image.h"
+#include "map_bitmap.h"
+#include "map_printout.h"
 #include "course_description.h"
 #include "entry_grid.h"
 #include "global_conversion.h"
@@ -118,12 +119,12 @@ void Plotter::filemakebmp_Click()
     QClipboard *clipboard = QApplication::clipboard();
     clipboard->clear();
     // The map drawn on a canvas twice the size, on white; then the canvas as it was.
-    fitToCanvas(2.0f);
-    m_engine.redraw();
-    const QImage image = renderFigureImage(m_engine.figure(), m_engine.canvasView(), kBitmapWhite);
+    fitToCanvas();
+    const CanvasDraw doubled = drawDoubleSize(m_engine);
+    const QImage image = mapBitmap(doubled.figure, doubled.view);
     if (!image.isNull())
         clipboard->setImage(image);
-    draw();
+    showResults();
 }
 
 // --- Conversions ---------------------------------------------------------------------

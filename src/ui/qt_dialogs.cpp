@@ -11,6 +11,7 @@
 #include <QPrinter>
 #include <QStringList>
 
+#include "paged_output.h"
 #include "qt_painter_surface.h"
 #include "safe_file.h"
 
@@ -34,23 +35,17 @@ QMessageBox::Icon qtIcon(Icon icon)
 
 } // namespace
 
-bool paintOn(QPagedPaintDevice &device, int dotsPerInch, const Printout &printout, int copies)
+bool paintOn(QPagedPaintDevice &device, const Printout &printout, int copies)
 {
-    QPainter painter;
-    if (!painter.begin(&device))
-        return false;
-    const double dpi = dotsPerInch;
-    QtPainterSurface surface(painter, DeviceMapping::forDotsPerInch(0.0f, 0.0f, dpi));
-    const QRectF area = device.pageLayout().paintRectPixels(dotsPerInch);
-    PrintSheet sheet{surface, float(area.width() / dpi * 1440.0), float(area.height() / dpi * 1440.0),
-                     copies < 1 ? 1 : copies, [&device] { device.newPage(); }};
-    printout(sheet);
-    return painter.end();
+    return paintPages(device, [&](Surface &surface, PageSize page) {
+        PrintSheet sheet{surface, page.width, page.height, copies < 1 ? 1 : copies, [&surface] { surface.newPage(); }};
+        printout(sheet);
+    });
 }
 
 void paintOn(QPrinter &printer, const Printout &printout, int copies)
 {
-    paintOn(printer, printer.resolution(), printout, copies);
+    paintOn(static_cast<QPagedPaintDevice &>(printer), printout, copies);
 }
 
 bool writePrintoutPdf(const QString &path, const QPageLayout &layout, const Printout &printout, int copies,
@@ -63,7 +58,7 @@ bool writePrintoutPdf(const QString &path, const QPageLayout &layout, const Prin
         writer.setCreator(QStringLiteral("Quilmar Deed Plotter"));
         writer.setResolution(600);
         writer.setPageLayout(layout);
-        if (!paintOn(writer, 600, printout, copies)) {
+        if (!paintOn(writer, printout, copies)) {
             error = "cannot draw the PDF";
             return false;
         }

@@ -32,7 +32,7 @@ public:
     int copies = 1;                   ///< the copies the print dialog "chooses"
     std::vector<std::string> printJobs; ///< print and preview jobs, "print NAME" / "preview NAME"
     RecordingSurface printed;         ///< what the last printout painted
-    int printedPages = 0;             ///< sheets of the last printout
+    int printedPages = 0;             ///< sheets of the last printout (1 + its "newPage" calls)
 
     Answer ask(const std::string &text, const std::string &, Buttons buttons, Icon icon) override
     {
@@ -85,8 +85,10 @@ private:
     {
         printed = RecordingSurface();
         printedPages = 1;
-        PrintSheet sheet{printed, 11520.0f, 15120.0f, n, [this] { ++printedPages; }};
+        PrintSheet sheet{printed, 11520.0f, 15120.0f, n, [this] { printed.newPage(); }};
         printout(sheet);
+        for (const std::string &call : printed.calls())
+            printedPages += call == "newPage";
     }
     static std::optional<std::string> take(std::deque<std::optional<std::string>> &q)
     {

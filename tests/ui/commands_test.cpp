@@ -344,7 +344,7 @@ TEST_F(Commands, PrintMapAndDataThroughThePrintDialog)
     EXPECT_TRUE(printedText("(Feet)"));
     EXPECT_TRUE(printedText("TANGENTS"));   // the heading
     EXPECT_TRUE(printedText("1  S 1000"));  // the reference list
-    EXPECT_TRUE(printedText("8  L Close"));
+    EXPECT_TRUE(printedText("N 45\xC2\xB0 E 1000"));
     EXPECT_TRUE(w->engine().mapComputed());
 
     dialogs.copies = 1;
