@@ -11,6 +11,7 @@
 #include <QInputDialog>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPainter>
 #include <QPrinter>
 #include <QTest>
 #include <QTextBrowser>
@@ -65,6 +66,15 @@ TEST(Screenshots, WindowMenusDialogsZoomHelpAndPrintouts)
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&w));
     w.findChild<QAction *>("demosample1")->trigger();
     save(&w, out, "window");
+    // The toolbar's icons as a 200 % screen shows them.
+    QImage icons(7 * 52, 52, QImage::Format_RGB32);
+    icons.fill(Qt::white);
+    {
+        QPainter p(&icons);
+        for (int i = 0; i < 7; ++i)
+            p.drawPixmap(2 + 52 * i, 2, w.findChild<QAction *>(qPrintable(QString("Toolbar_%1").arg(i)))->icon().pixmap(48, 48));
+    }
+    icons.save(QString::fromStdString(out + "/icons200.png"));
 
     for (const char *name : {"Filemenu", "mnuConversions", "mnuView", "helpmenu"}) {
         QMenu *menu = w.findChild<QMenu *>(name);
