@@ -1,7 +1,9 @@
 // Pictures of the window, its menus, dialogs, the zoom window, the help and
 // the printouts, for a person to look at. Runs only when QUILMAR_SCREENSHOTS
 // names a folder (best under xvfb-run, where real fonts and styles apply):
-//   QUILMAR_SCREENSHOTS=out xvfb-run build/tests/ui/quilmar_ui_tests --gtest_filter='Screenshots.*'
+//   QUILMAR_SCREENSHOTS=out QT_QPA_PLATFORM=xcb xvfb-run -a \
+//       build/tests/ui/quilmar_ui_tests --gtest_filter='Screenshots.*'
+// (without QT_QPA_PLATFORM the test main picks the offscreen platform).
 
 #include <cstdlib>
 #include <filesystem>
