@@ -39,6 +39,8 @@ public:
     {
         return std::nullopt;
     }
+    bool print(const std::string &, const Printout &) override { return false; }
+    void preview(const std::string &, const Printout &) override {}
 
 private:
     Script &m_script;
