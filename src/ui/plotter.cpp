@@ -155,7 +155,11 @@ QWidget *Plotter::buildCentral()
     m_scalebox = new QComboBox(central);
     m_scalebox->setObjectName("Scalebox");
     m_scalebox->setAccessibleName("Scale");
-    m_scalebox->setEditable(true);
+    // A classic drop-down combo: the user may type any scale, and the list
+    // completes nothing of what is typed. Giving it its own line edit (rather
+    // than setEditable) leaves the drop-down list unbuilt until it first opens.
+    m_scalebox->setLineEdit(new QLineEdit(m_scalebox));
+    m_scalebox->setCompleter(nullptr);
     m_scalebox->setInsertPolicy(QComboBox::NoInsert);
     m_scalebox->setMinimumContentsLength(10);
     m_label1->setBuddy(m_scalebox);

@@ -4,15 +4,15 @@
 // plotter_commands.cpp.
 
 #include <QAction>
-#include <QIcon>
 #include <QMenuBar>
 #include <QToolBar>
 #include <QToolButton>
 
 #include "entry_grid.h"
 #include "plotter.h"
+#include "toolbar_icons.h"
 
-// The icons and the help live in a static library: register them by hand.
+// The help lives in a static library: register it by hand.
 static void initUiResources() { Q_INIT_RESOURCE(quilmar_ui); }
 
 namespace quilmar {
@@ -190,20 +190,12 @@ void Plotter::buildToolbar()
     bar->setObjectName("Toolbar");
     bar->setMovable(false);
     bar->setIconSize(QSize(24, 24));
-    struct Button {
-        const char *tip;
-        const char *icon;
-    };
     // Index 7 (Exit) is reached by no button.
-    const Button buttons[] = {
-        {"Re-draw Map (F8)", "redraw"},       {"Clear Line (Row)", "clear_line"},
-        {"Clear All", "clear_all"},           {"Print Map", "print_map"},
-        {"Calculate Area", "area"},           {"Calculate Perimeter", "perimeter"},
-        {"Calculate Gap", "gap"},
-    };
+    const char *tips[] = {"Re-draw Map (F8)", "Clear Line (Row)", "Clear All",          "Print Map",
+                          "Calculate Area",   "Calculate Perimeter", "Calculate Gap"};
     for (int i = 0; i < 7; ++i) {
-        QAction *a = bar->addAction(QIcon(QString(":/quilmar/icons/%1.svg").arg(buttons[i].icon)), buttons[i].tip);
-        a->setToolTip(buttons[i].tip);
+        QAction *a = bar->addAction(toolbarIcon(i), tips[i]);
+        a->setToolTip(tips[i]);
         a->setObjectName(QString("Toolbar_%1").arg(i));
         bar->widgetForAction(a)->setObjectName(QString("Toolbar_%1").arg(i));
         // An error inside a button's command ends that command silently.
