@@ -1,5 +1,6 @@
 #include "call_reader.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 
@@ -77,6 +78,30 @@ private:
             for (auto w : words)
                 if (word(k) == w)
                     return true;
+        }
+        return false;
+    }
+
+    // "the beginning of a curve", "point of a non-tangent circular curve", "P.C. of
+    // a curve": the curve word at @p i names where the next call starts. Only
+    // articles and the curve's adjectives may stand between "of" and the word.
+    bool startsCurveHere(size_t i) const
+    {
+        static constexpr std::string_view kBetween[] = {"a",     "an",        "the",      "said",     "non",
+                                                        "tangent", "nontangent", "circular", "compound", "reverse",
+                                                        "reversing", "simple",  "horizontal"};
+        size_t k = i;
+        while (k > m_begin) {
+            --k;
+            if (isKind(k, TokKind::Hyphen) || !m_active[k - m_begin])
+                continue;
+            const std::string_view w = word(k);
+            if (std::find(std::begin(kBetween), std::end(kBetween), w) != std::end(kBetween))
+                continue;
+            if (w != "of")
+                return false;
+            const std::string_view b = prevWord(k);
+            return b == "beginning" || b == "point" || b == "pc" || b == "begin";
         }
         return false;
     }
@@ -267,7 +292,7 @@ bool CallReader::findCurveWord()
         if (w == "curve" || w == "arc" || w == "curves" || w == "curving" || w == "curved") {
             // "to the beginning of a curve", "point of curvature": a straight call
             // that ends where a curve starts.
-            if (wordBefore(i, {"beginning", "point", "pc", "begin"}, 4) && wordBefore(i, {"of"}, 3)) {
+            if (startsCurveHere(i)) {
                 if (m_nextCurveAt == std::string::npos)
                     m_nextCurveAt = i;
                 continue;
@@ -712,7 +737,7 @@ Call CallReader::read()
         if (w.empty())
             continue;
         const bool beginningWord = w == "beginning" || w == "begining" || w == "beg" || w == "commencement"
-                                   || w == "commencing" || w == "begin";
+                                   || w == "commencing" || w == "begin" || (w == "starting" && prevWord(i) == "of");
         // "point of beginning", "to the beginning", "said beginning", "the true point of beginning";
         // not "the beginning of a curve".
         if (beginningWord && word(i + 1) != "of" && word(i + 1) != "a") {
@@ -723,7 +748,7 @@ Call CallReader::read()
             const std::string_view b3 = p2 == std::string::npos ? std::string_view() : prevWord(p2);
             if (b1 == "of" || b1 == "the" || b1 == "said" || (b1 == "true" && b2 == "the")) {
                 call.closes = true;
-                call.atCommencement = w == "commencement" || w == "commencing";
+                call.atCommencement = w == "commencement" || w == "commencing" || w == "starting";
                 call.truePoint = call.truePoint || b1 == "true" || b2 == "true" || b3 == "true";
             }
         }
@@ -1080,6 +1105,12 @@ void CallReader::readCurve(Call &call)
     }
     if (!call.radius && m_context.pendingRadius && !degreeOfCurve)
         call.radius = m_context.pendingRadius;
+    if (!chordBearing && m_context.pendingChordBearing)
+        chordBearing = Found{*m_context.pendingChordBearing, {}, 0, 0};
+    if (!call.chord)
+        call.chord = m_context.pendingChord;
+    if (!call.distance)
+        call.distance = m_context.pendingArc;
     call.side = sideWord(m_begin, m_end);
     if (!call.side && m_context.pendingSide)
         call.side = m_context.pendingSide;
@@ -1152,6 +1183,17 @@ void CallReader::readNextCurve(Call &call)
         }
     }
     call.nextSide = sideWord(m_nextCurveAt, m_end);
+    // The rest of what the clause tells of the curve, read as a curve's own
+    // call would be; its side waits for the next call, which knows the way in.
+    CallContext alone;
+    alone.azimuthFromSouth = m_context.azimuthFromSouth;
+    const Call next = CallReader(m_t, m_nextCurveAt, m_end, alone).read();
+    if (next.curve && next.direction && next.direction->hasAngle)
+        call.nextChordBearing = next.direction;
+    if (next.curve) {
+        call.nextChord = next.chord;
+        call.nextArc = next.distance;
+    }
 }
 
 } // namespace

@@ -54,6 +54,10 @@ struct Call {
     std::optional<Length> nextRadius;
     char nextSide = 0;
     std::string nextConcave; ///< "northwesterly" of "concave northwesterly"
+    /// Chord bearing, chord and arc told there too ("... and a chord which
+    /// bears N 79°30' E 92.18 feet; thence along said curve 92.71 feet").
+    std::optional<Direction> nextChordBearing;
+    std::optional<Length> nextChord, nextArc;
     std::vector<std::string> problems; ///< any problem: no course row
     std::vector<std::string> warnings; ///< the row stands, but is worth a look
     /// True when the call holds a direction or a length at all.
@@ -72,6 +76,8 @@ struct CallContext {
     std::optional<Length> pendingRadius;
     char pendingSide = 0;
     std::string pendingConcave;
+    std::optional<Direction> pendingChordBearing; ///< used where the curve's own call gives none
+    std::optional<Length> pendingChord, pendingArc; ///< used where the call gives neither arc nor chord
 };
 
 /// Reads the call in tokens [@p begin, @p end) of @p tokens.

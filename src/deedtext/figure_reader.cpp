@@ -344,6 +344,9 @@ DeedImport parseDeedText(std::string_view text)
             context.pendingRadius = call.nextRadius;
             context.pendingSide = call.nextSide;
             context.pendingConcave = call.nextConcave;
+            context.pendingChordBearing = call.nextChordBearing;
+            context.pendingChord = call.nextChord;
+            context.pendingArc = call.nextArc;
             if (call.closes) {
                 const bool closesFigure = call.atCommencement && !call.truePoint;
                 if (!closesFigure && (mode == Mode::Commence || (call.truePoint && mode == Mode::Body && !b.tagInFigure))) {
