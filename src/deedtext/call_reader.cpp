@@ -358,7 +358,9 @@ std::optional<CallReader::Angle> CallReader::readAngle(size_t i, bool allowBareT
         } else if (isKind(m, TokKind::Minute) || isMinuteWord(word(m))) {
             s = 1;
             marked = true;
-        } else if (isKind(m, TokKind::Second) || isSecondWord(word(m))) {
+        } else if (isKind(m, TokKind::Second) || isSecondWord(word(m))
+                   || (slot == 2 && word(m) == "s" && isEW(word(skipPunct(m + 1))))) {
+            // "44d 30m 15s E": after the minutes, an "s" before the east/west letter is the seconds' mark
             s = 2;
             marked = true;
         }
