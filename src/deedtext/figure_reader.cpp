@@ -171,6 +171,7 @@ struct Builder {
     std::vector<PendingRow> rows;
     std::vector<DeedFlag> flags;
     size_t figureRows = 0;
+    size_t figureFlags = 0; ///< calls of the figure flagged instead of written
     bool needNew = false;
     bool tagInFigure = false; ///< the figure has its "B" already
 };
@@ -233,6 +234,7 @@ DeedImport parseDeedText(std::string_view text)
         if (b.figureRows > 0)
             b.needNew = true;
         b.figureRows = 0;
+        b.figureFlags = 0;
         b.tagInFigure = false;
         context = {};
         context.azimuthFromSouth = fromSouth;
@@ -325,12 +327,14 @@ DeedImport parseDeedText(std::string_view text)
             for (const auto &w : call.warnings)
                 b.flags.push_back({call.span, w, Severity::Warning});
             const bool flagged = !call.problems.empty();
-            if (flagged)
+            if (flagged) {
                 b.flags.push_back({call.span, call.problems.front(), Severity::Flag});
+                ++b.figureFlags;
+            }
             const bool course = !flagged && (call.distance.has_value() || (call.curve && (call.chord || call.radius)));
             if (!flagged && !course && !call.closes && !call.holdsCourse())
                 continue; // a clause without a course: "thence with the road"
-            if (call.closes && !course && !flagged && b.figureRows == 0)
+            if (call.closes && !course && !flagged && b.figureRows == 0 && b.figureFlags == 0)
                 continue; // "POINT OF BEGINNING: the corner of ...": a heading, not a close
             if (course) {
                 addRow(call);
