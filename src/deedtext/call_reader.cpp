@@ -622,6 +622,14 @@ std::optional<CallReader::FoundLength> CallReader::lengthAt(size_t i, bool allow
             unit = unitNamed("links");
         else if (word(u) == "in" && isKind(u + 1, TokKind::Period) && !isKind(u + 2, TokKind::Number)) unit = inchUnit();
         else unit = unitNamed(word(u));
+        // "sixteen perches and two-tenths of a perch": a fraction of a unit, added.
+        bool fractionOf = false;
+        if (!unit && parts > 0 && word(u) == "of"
+            && (word(u + 1) == "a" || word(u + 1) == "an" || word(u + 1) == "one") && unitNamed(word(u + 2))) {
+            u += 2;
+            unit = unitNamed(word(u));
+            fractionOf = unit->known;
+        }
         if (!unit) {
             if (parts > 0)
                 break;
@@ -642,7 +650,7 @@ std::optional<CallReader::FoundLength> CallReader::lengthAt(size_t i, bool allow
             f.end = u + 1;
             return f;
         }
-        if (unit->factorToFeet >= lastFactor && parts > 0)
+        if (unit->factorToFeet >= lastFactor && parts > 0 && !(fractionOf && unit->factorToFeet == lastFactor))
             break; // "100 feet, 50 feet": two lengths, not one
         if (n.disagree)
             f.problem = "number in words and figures disagree";
