@@ -510,6 +510,22 @@ std::optional<CallReader::Found> CallReader::directionAt(size_t i)
         f.end = a->end;
         return f;
     }
+    // "on a bearing of 225°30'": a bearing without quadrant letters is a
+    // whole-circle bearing, read like an azimuth.
+    if (w == "bearing" || w == "brg") {
+        size_t k = i + 1;
+        while (in(k) && (isPunct(k) || word(k) == "of"))
+            ++k;
+        if (isKind(k, TokKind::Number) && (isKind(k + 1, TokKind::Degree) || isDegreeWord(word(k + 1)))) {
+            auto a = readAngle(k, true);
+            if (a && !isNS(word(skipPunct(a->end))) && !isEW(word(skipPunct(a->end)))) {
+                if (auto d = azimuthToQuadrant(*a, f.problem))
+                    f.direction = *d;
+                f.end = a->end;
+                return f;
+            }
+        }
+    }
     // Northeast, N.E., north east: the half-way direction.
     if (w == "ne" || w == "nw" || w == "se" || w == "sw" || w == "northeast" || w == "northwest" || w == "southeast"
         || w == "southwest") {
