@@ -1291,7 +1291,9 @@ bool isClauseStart(const std::vector<Token> &t, std::size_t i, bool &commence)
     if (i >= t.size() || t[i].kind != TokKind::Word)
         return false;
     const std::string &w = t[i].word;
-    const bool begin = w == "beginning" || w == "begin" || w == "begining" || w == "beg" || w == "begins";
+    // "POB at the NW cor.": surveyor's shorthand for "Beginning at".
+    const bool begin = w == "beginning" || w == "begin" || w == "begining" || w == "beg" || w == "begins"
+                       || (w == "pob" && i + 1 < t.size() && t[i + 1].isWord("at"));
     const bool comm = w == "commencing" || w == "commence" || w == "commencement" || w == "commences"
                       || (w == "starting" && i + 1 < t.size() && t[i + 1].isWord("at"));
     if (!begin && !comm)

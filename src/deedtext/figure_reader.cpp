@@ -156,6 +156,12 @@ std::vector<Clause> splitClauses(const std::vector<Token> &t, bool &anyClauseWor
             }
             if (tok.lineStart && i > 0)
                 open(ClauseKind::Call, i);
+            // "POB at NW cor. N45E 100' to pin, S45E 50' to pin": after a comma
+            // or a period, a quadrant bearing starts the next call.
+            if ((tok.kind == TokKind::Comma || tok.kind == TokKind::Period) && i + 2 < t.size()
+                && t[i + 1].kind == TokKind::Word && (t[i + 1].word == "n" || t[i + 1].word == "s") && t[i + 2].kind == TokKind::Number
+                && !t[i + 2].fraction)
+                open(ClauseKind::Call, i + 1);
         }
     }
     return clauses;

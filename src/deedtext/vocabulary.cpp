@@ -103,7 +103,7 @@ constexpr std::string_view kApproximate[] = {
 };
 
 constexpr std::string_view kSideNouns[] = {
-    "line", "lines", "side", "sides", "boundary", "boundaries", "bank", "banks", "edge", "corner",
+    "line", "lines", "side", "sides", "boundary", "boundaries", "bank", "banks", "edge", "corner", "cor", "cnr",
     "corners", "end", "half", "quarter", "margin", "face", "wall", "fork", "branch", "part",
     "portion", "right", "row", "carolina", "dakota", "virginia", "street", "st", "avenue", "ave",
     "road", "rd", "main", "lot", "lots", "most", "extremity", "terminus", "fence", "of", "one",
