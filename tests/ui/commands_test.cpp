@@ -1,38 +1,22 @@
 // The window's menus, toolbar and commands (offscreen platform), every
 // question answered by ScriptedDialogs.
 
-#include <unistd.h>
-
-#include <algorithm>
-#include <filesystem>
-#include <fstream>
-
-#include <QAction>
-#include <QApplication>
 #include <QCheckBox>
-#include <QClipboard>
 #include <QImage>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
 #include <QMenuBar>
 #include <QPageLayout>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
-#include <QTest>
 #include <QTextBrowser>
 #include <QToolBar>
-#include <gtest/gtest.h>
 
-#include "entry_grid.h"
 #include "map_canvas.h"
-#include "plotter.h"
 #include "print_options_dialog.h"
 #include "printouts.h"
 #include "qt_dialogs.h"
-#include "scripted_dialogs.h"
+#include "window_fixture.h"
 #include "zoom_form.h"
 
 using namespace quilmar;
@@ -40,48 +24,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-class Commands : public ::testing::Test {
-protected:
-    fs::path dir = fs::temp_directory_path() /
-                   ("quilmar_cmd_" + std::to_string(::getpid()) + ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    ScriptedDialogs dialogs;
-    std::unique_ptr<Plotter> w;
-
-    void SetUp() override
-    {
-        fs::create_directories(dir);
-        start(true);
-    }
-    void TearDown() override
-    {
-        w.reset();
-        fs::remove_all(dir);
-    }
-    void start(bool english)
-    {
-        w.reset();
-        w = std::make_unique<Plotter>(dialogs, startupOptionsIn(dir.string() + "/", "quilmar", english));
-        w->resize(1100, 700);
-        w->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(w.get()));
-    }
-    QAction *action(const char *name) { return w->findChild<QAction *>(name); }
-    void trigger(const char *name)
-    {
-        QAction *a = action(name);
-        ASSERT_NE(a, nullptr) << name;
-        a->trigger();
-    }
-    std::string acres() { return w->findChild<QLabel *>("Acresbox")->text().toStdString(); }
-    std::string clipboard() { return QApplication::clipboard()->text().toStdString(); }
-    QLineEdit *field(int row, int column) { return w->grid().field({row, column}); }
-    bool printedText(const std::string &needle)
-    {
-        const auto &calls = dialogs.printed.calls();
-        return std::any_of(calls.begin(), calls.end(),
-                           [&](const std::string &c) { return c.find(needle) != std::string::npos; });
-    }
-};
+class Commands : public test::WindowTest {};
 
 // One menu as "name|caption|shortcut" lines, "-" for a separator (with "(hidden)" when hidden).
 std::vector<std::string> entries(QMenu *menu)

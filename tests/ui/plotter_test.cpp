@@ -1,83 +1,25 @@
 // The window through real focus changes, keys and clicks (offscreen platform),
 // with every question answered by ScriptedDialogs.
 
-#include "plotter.h"
-
 #include <sys/resource.h>
-#include <unistd.h>
 
 #include <csignal>
-#include <filesystem>
-#include <fstream>
 #include <sstream>
 
-#include <QAction>
 #include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
-#include <QTest>
-#include <gtest/gtest.h>
 
-#include "entry_grid.h"
-#include "scripted_dialogs.h"
+#include "window_fixture.h"
 
 using namespace quilmar;
 namespace fs = std::filesystem;
 
 namespace {
 
-class Window : public ::testing::Test {
-protected:
-    fs::path dir = fs::temp_directory_path() /
-                   ("quilmar_ui_" + std::to_string(::getpid()) + ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    ScriptedDialogs dialogs;
-    std::unique_ptr<Plotter> w;
-
-    void SetUp() override
-    {
-        fs::create_directories(dir);
-        start(true);
-    }
-    void TearDown() override
-    {
-        w.reset();
-        fs::permissions(dir, fs::perms::owner_all, fs::perm_options::add);
-        fs::remove_all(dir);
-    }
-    void start(bool english, const std::string &ini = {})
-    {
-        w.reset();
-        if (!ini.empty())
-            std::ofstream(dir / "quilmar.ini") << ini;
-        w = std::make_unique<Plotter>(dialogs, startupOptionsIn(dir.string(), "quilmar", english));
-        w->resize(1100, 700);
-        w->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(w.get()));
-    }
-    QLineEdit *field(int row, int column) { return w->grid().field({row, column}); }
-    template <class T> T *child(const char *name) { return w->findChild<T *>(name); }
-    void click(QWidget *widget) { QTest::mouseClick(widget, Qt::LeftButton); }
-    /// Types @p keys into the focused widget; "\t" is Tab and "\r" Enter.
-    void type(const std::string &keys)
-    {
-        for (char c : keys) {
-            QWidget *target = QApplication::focusWidget();
-            if (c == '\t')
-                QTest::keyClick(target, Qt::Key_Tab);
-            else if (c == '\r')
-                QTest::keyClick(target, Qt::Key_Return);
-            else
-                QTest::keyClick(target, c);
-        }
-    }
-    void closeTagMenu() { w->grid().tagMenu()->hide(); }
-    std::string cell(int row, int column) { return w->engine().table().at(row, column).text(); }
-};
+class Window : public test::WindowTest {};
 
 } // namespace
 
@@ -91,8 +33,6 @@ TEST_F(Window, StartsWithTheScaleListUnitsAndNames)
     EXPECT_EQ(scale->currentText(), "Standard");
     EXPECT_EQ(w->windowTitle(), "Quilmar Deed Plotter");
     EXPECT_TRUE(child<QRadioButton>("metrix_0")->isChecked());
-    EXPECT_TRUE(child<QAction>("mnuAcres")->isVisible());
-    EXPECT_FALSE(child<QAction>("mnuHectares")->isVisible());
     EXPECT_FALSE(w->engine().mapComputed()); // "Standard" at start-up draws nothing
     EXPECT_EQ(field(0, 1)->objectName(), "Text1_0");
     EXPECT_EQ(field(9, 10)->objectName(), "Text10_9");
@@ -105,8 +45,6 @@ TEST_F(Window, StartsWithTheScaleListUnitsAndNames)
 
     start(false, "[setting]\nscales=250\n");
     EXPECT_TRUE(child<QRadioButton>("metrix_1")->isChecked());
-    EXPECT_FALSE(child<QAction>("mnuAcres")->isVisible());
-    EXPECT_TRUE(child<QAction>("mnuHectares")->isVisible());
     EXPECT_EQ(child<QComboBox>("Scalebox")->itemText(4), " 250");
     EXPECT_EQ(child<QComboBox>("Scalebox")->count(), 6);
 }

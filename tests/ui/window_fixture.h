@@ -1,0 +1,97 @@
+#pragma once
+// The window in a folder of its own (its settings, backups and manual), shown
+// on the offscreen platform, with every question answered by ScriptedDialogs;
+// shared by the window's test files.
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <string>
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "entry_grid.h"
+#include "plotter.h"
+#include "scripted_dialogs.h"
+
+namespace quilmar::test {
+
+class WindowTest : public ::testing::Test {
+protected:
+    std::filesystem::path dir = std::filesystem::temp_directory_path() /
+                                ("quilmar_" + std::to_string(::getpid()) +
+                                 ::testing::UnitTest::GetInstance()->current_test_info()->test_suite_name() +
+                                 ::testing::UnitTest::GetInstance()->current_test_info()->name());
+    ScriptedDialogs dialogs;
+    std::unique_ptr<Plotter> w;
+
+    void SetUp() override
+    {
+        std::filesystem::create_directories(dir);
+        start(true);
+    }
+    void TearDown() override
+    {
+        w.reset();
+        // a test may have left the folder read-only
+        std::filesystem::permissions(dir, std::filesystem::perms::owner_all, std::filesystem::perm_options::add);
+        std::filesystem::remove_all(dir);
+    }
+    /// A new window in English or metric measure; @p ini, when given, is written as its settings first.
+    void start(bool english, const std::string &ini = {})
+    {
+        w.reset();
+        if (!ini.empty())
+            std::ofstream(dir / "quilmar.ini") << ini;
+        w = std::make_unique<Plotter>(dialogs, startupOptionsIn(dir.string(), "quilmar", english));
+        w->resize(1100, 700);
+        w->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(w.get()));
+    }
+    QLineEdit *field(int row, int column) { return w->grid().field({row, column}); }
+    template <class T> T *child(const char *name) { return w->findChild<T *>(name); }
+    QAction *action(const char *name) { return child<QAction>(name); }
+    void trigger(const char *name)
+    {
+        QAction *a = action(name);
+        ASSERT_NE(a, nullptr) << name;
+        a->trigger();
+    }
+    void click(QWidget *widget) { QTest::mouseClick(widget, Qt::LeftButton); }
+    /// Types @p keys into the focused widget; "\t" is Tab and "\r" Enter.
+    void type(const std::string &keys)
+    {
+        for (char c : keys) {
+            QWidget *target = QApplication::focusWidget();
+            if (c == '\t')
+                QTest::keyClick(target, Qt::Key_Tab);
+            else if (c == '\r')
+                QTest::keyClick(target, Qt::Key_Return);
+            else
+                QTest::keyClick(target, c);
+        }
+    }
+    void closeTagMenu() { w->grid().tagMenu()->hide(); }
+    std::string cell(int row, int column) { return w->engine().table().at(row, column).text(); }
+    std::string acres() { return child<QLabel>("Acresbox")->text().toStdString(); }
+    std::string clipboard() { return QApplication::clipboard()->text().toStdString(); }
+    /// Whether any recorded print call carries @p needle.
+    bool printedText(const std::string &needle)
+    {
+        const auto &calls = dialogs.printed.calls();
+        return std::any_of(calls.begin(), calls.end(),
+                           [&](const std::string &c) { return c.find(needle) != std::string::npos; });
+    }
+};
+
+} // namespace quilmar::test
