@@ -3,37 +3,15 @@
 #include <string>
 #include <vector>
 
-#include "engine.h"
-#include "table_builder.h"
+#include "engine_fixture.h"
 
 using namespace quilmar;
 
 namespace {
 
-class Recorder : public Prompter {
-public:
-    Answer ask(const std::string &text, const std::string &, Buttons, Icon) override
-    {
-        messages.push_back(text);
-        return Answer::Ok;
-    }
-    std::vector<std::string> messages;
-};
-
+using test::Recorder;
 using test::Row;
-
-// A fresh engine in feet at "Standard" on the default 7200 x 4800 canvas.
-struct Fixture {
-    Recorder prompter;
-    Engine engine{prompter};
-    explicit Fixture(std::initializer_list<Row> rows) : Fixture(std::vector<Row>(rows)) {}
-    explicit Fixture(const std::vector<Row> &rows)
-    {
-        engine.metrix_Click(Units::Feet);
-        engine.editTable() = test::makeTable(rows);
-        engine.redraw();
-    }
-};
+using Fixture = test::DrawnEngine;
 
 // The square feet of an acres text: "0.40 acres [17,353.98 sq ft]" -> 17353.98.
 double squareFeet(const std::string &text)

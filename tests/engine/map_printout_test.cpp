@@ -6,40 +6,22 @@
 #include <cmath>
 #include <sstream>
 
+#include "engine_fixture.h"
 #include "map_printout.h"
 #include "recording_surface.h"
-#include "table_builder.h"
 
 using namespace quilmar;
 
 namespace {
 
-class Silent : public Prompter {
-public:
-    Answer ask(const std::string &text, const std::string &, Buttons, Icon) override
-    {
-        messages.push_back(text);
-        return Answer::Ok;
-    }
-    std::vector<std::string> messages;
-};
-
 using test::Row;
 
-// N 100, E 100, S 100, W 90: a square that misses its start by 10 feet.
-struct Printout {
-    Silent prompter;
-    Engine engine{prompter};
-    Printout(std::initializer_list<Row> rows, const char *scale = "Standard")
-    {
-        engine.metrix_Click(Units::Feet);
-        engine.setScaleText(scale);
-        engine.setDescription("Lot 7");
-        engine.editTable() = test::makeTable(rows);
-        engine.redraw();
-    }
+// Printed with "Lot 7" as the heading.
+struct Printout : test::DrawnEngine {
+    Printout(std::initializer_list<Row> rows, const char *scale = "Standard") : DrawnEngine(rows, scale, "Lot 7") {}
 };
 
+// N 100, E 100, S 100, W 90: a square that misses its start by 10 feet.
 const std::initializer_list<Row> kOpenSquare{
     {"N", "", "", "", "", "100", "", "", "", ""},
     {"E", "", "", "", "", "100", "", "", "", ""},
