@@ -1,4 +1,4 @@
-#include "cli.h"
+#include "cli_run.h"
 
 #include <filesystem>
 #include <fstream>
@@ -9,37 +9,20 @@
 namespace quilmar {
 namespace {
 
-struct CommandRun {
-    int status;
-    std::string out;
-    std::string err;
-};
-
-// Runs `quilmar NAME args...` without a process.
-CommandRun run(const char *name, std::vector<std::string> args)
-{
-    args.insert(args.begin(), name);
-    CommandIo io;
-    const int status = runCommandLine(args, io);
-    return {status, io.out, io.err};
-}
-
-CommandRun calc(std::vector<std::string> args)
-{
-    return run("calc", std::move(args));
-}
+using test::CommandRun;
+using test::runCli;
 
 TEST(CliCalc, PlainOutput)
 {
-    EXPECT_EQ(calc({"meters2feet", "-2"}).out, "-2 Meters = -6.562 Feet\n"); // a negative answer is no option
+    EXPECT_EQ(runCli("calc", {"meters2feet", "-2"}).out, "-2 Meters = -6.562 Feet\n"); // a negative answer is no option
 
-    CommandRun r = calc({"arc", "100 49"});
+    CommandRun r = runCli("calc", {"arc", "100 49"});
     EXPECT_EQ(r.status, 2);
     EXPECT_EQ(r.out, "");
     EXPECT_EQ(r.err, "Chord cannot be longer than 2 x radius\n");
 
     for (const char *answer : {"", "   ", "abc"}) {
-        r = calc({"rods", answer});
+        r = runCli("calc", {"rods", answer});
         EXPECT_EQ(r.status, 0) << answer;
         EXPECT_EQ(r.out + r.err, "") << answer;
     }
@@ -47,14 +30,14 @@ TEST(CliCalc, PlainOutput)
 
 TEST(CliCalc, Json)
 {
-    CommandRun r = calc({"--json", "arc", "100 50"}); // half circle: 50 x 3.14159265 = 157.0796325
+    CommandRun r = runCli("calc", {"--json", "arc", "100 50"}); // half circle: 50 x 3.14159265 = 157.0796325
     EXPECT_EQ(r.status, 0);
     EXPECT_EQ(r.out, "{\"acresbox\":\"Arc Length  = 157.0796\",\"clipboard\":\"157.0796\",\"messages\":[]}\n");
 
-    r = calc({"--json", "angle", "100 100"}); // degree sign in UTF-8, no clipboard
+    r = runCli("calc", {"--json", "angle", "100 100"}); // degree sign in UTF-8, no clipboard
     EXPECT_EQ(r.out, "{\"acresbox\":\"Angle = 57\u00B0 17' 44.809''\",\"clipboard\":null,\"messages\":[]}\n");
 
-    r = calc({"--json", "reciprocal", "91 0 0"});
+    r = runCli("calc", {"--json", "reciprocal", "91 0 0"});
     EXPECT_EQ(r.status, 2);
     EXPECT_EQ(r.out, "{\"acresbox\":null,\"clipboard\":null,\"messages\":[\"Incorrect Input\"]}\n");
     EXPECT_EQ(r.err, "");
@@ -64,7 +47,7 @@ TEST(CliCalc, UsageErrors)
 {
     for (const std::vector<std::string> &args : std::vector<std::vector<std::string>>{
              {}, {"chains"}, {"--json", "chains"}, {"chains", "1", "2"}, {"bogus", "1"}}) {
-        const CommandRun r = calc(args);
+        const CommandRun r = runCli("calc", args);
         EXPECT_EQ(r.status, 1);
         EXPECT_NE(r.err.find("usage: quilmar calc"), std::string::npos);
     }
@@ -86,10 +69,6 @@ protected:
         std::ofstream(file(name), std::ios::binary) << bytes;
         return file(name);
     }
-    CommandRun convert(std::vector<std::string> args)
-    {
-        return run("convert", std::move(args));
-    }
 
     std::filesystem::path m_dir;
 };
@@ -98,7 +77,7 @@ TEST_F(CliConvert, MetersToFeetSelectsFeet)
 {
     const std::string in = write("in.map", "S\t\t\t\t\t100\t\t\t\tB\r\nN\t45\t\t\tE\t50\t\t20\t\t\r\n"
                                            "~Lot 7\r\n*spec=1Standard\r\n");
-    const CommandRun r = convert({"meters", in});
+    const CommandRun r = runCli("convert", {"meters", in});
     ASSERT_EQ(r.status, 0) << r.err;
     // 100 x 3.281 = 328.1; 50 x 3.281 = 164.05; 20 x 3.281 = 65.62
     EXPECT_EQ(r.out.rfind("S\t\t\t\t\t328.1\t\t\t\tB\r\nN\t45\t\t\tE\t164.05\t\t65.62\t\t\r\n", 0), 0u);
@@ -109,7 +88,7 @@ TEST_F(CliConvert, MetersToFeetSelectsFeet)
 TEST_F(CliConvert, FeetToMetersIntoAFile)
 {
     const std::string in = write("in.map", "S\t\t\t\t\t328.1\t\t\t\t\r\n~\r\n*spec=0Standard\r\n");
-    const CommandRun r = convert({"feet", in, "-o", file("out.map")});
+    const CommandRun r = runCli("convert", {"feet", in, "-o", file("out.map")});
     ASSERT_EQ(r.status, 0) << r.err;
     EXPECT_EQ(r.out, "");
     std::stringstream bytes;
@@ -121,14 +100,14 @@ TEST_F(CliConvert, FeetToMetersIntoAFile)
 TEST_F(CliConvert, FailuresWriteNothing)
 {
     const std::string bad = write("bad.map", "S\t\t\t\t\t12abc\t\t\t\t\r\n~\r\n*spec=0Standard\r\n");
-    CommandRun r = convert({"chains", bad, "-o", file("out.map")});
+    CommandRun r = runCli("convert", {"chains", bad, "-o", file("out.map")});
     EXPECT_EQ(r.status, 2);
     EXPECT_EQ(r.err, "quilmar convert: Type mismatch\n");
     EXPECT_FALSE(std::filesystem::exists(file("out.map")));
 
-    EXPECT_EQ(convert({"meters"}).status, 1);
-    EXPECT_EQ(convert({"parsecs", bad}).status, 1);
-    r = convert({"meters", file("none.map")});
+    EXPECT_EQ(runCli("convert", {"meters"}).status, 1);
+    EXPECT_EQ(runCli("convert", {"parsecs", bad}).status, 1);
+    r = runCli("convert", {"meters", file("none.map")});
     EXPECT_EQ(r.status, 1);
     EXPECT_NE(r.err.find("not found"), std::string::npos);
 }

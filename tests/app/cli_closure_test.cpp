@@ -6,7 +6,7 @@
 
 #include <set>
 
-#include "cli.h"
+#include "cli_run.h"
 
 using namespace quilmar;
 
@@ -14,16 +14,7 @@ namespace {
 
 const std::string kBlunder = QUILMAR_TEST_DATA "/blunder.map";
 
-int runClosureCommand(const Args &args, std::string &out, std::string &err)
-{
-    Args line{"closure"};
-    line.insert(line.end(), args.begin(), args.end());
-    CommandIo io;
-    const int status = runCommandLine(line, io);
-    out += io.out;
-    err += io.err;
-    return status;
-}
+test::CommandRun closure(const Args &args) { return test::runCli("closure", args); }
 
 std::set<QString> keysOf(const QJsonObject &o)
 {
@@ -36,9 +27,9 @@ std::set<QString> keysOf(const QJsonObject &o)
 TEST(CliClosure, JsonKeepsItsContract)
 {
     // blunder.map: a four-sided deed whose third call reads N for S.
-    std::string out, err;
-    ASSERT_EQ(runClosureCommand({"--json", kBlunder}, out, err), 0) << err;
-    const QJsonObject root = QJsonDocument::fromJson(QByteArray::fromStdString(out)).object();
+    const test::CommandRun r = closure({"--json", kBlunder});
+    ASSERT_EQ(r.status, 0) << r.err;
+    const QJsonObject root = QJsonDocument::fromJson(QByteArray::fromStdString(r.out)).object();
     const QJsonArray lots = root["lots"].toArray();
     ASSERT_EQ(lots.size(), 1);
     const QJsonObject lot = lots[0].toObject();
@@ -68,16 +59,14 @@ TEST(CliClosure, JsonKeepsItsContract)
 
 TEST(CliClosure, TextReportStatusAndUsage)
 {
-    std::string out, err;
-    ASSERT_EQ(runClosureCommand({kBlunder}, out, err), 0);
+    const std::string out = closure({kBlunder}).out;
     for (const char *line : {"Plotter's gap     Gap = 1,200.00.  S 0\u00b0 0' 1'' W (53.42%)", "Precision         1:1 (worse than 1:5,000, 1:10,000, 1:15,000 and 1:20,000)\n",
                              "1. ns-flip: row 4 reads S 7 35 40 W 605.31"})
         EXPECT_NE(out.find(line), std::string::npos) << line << "\n" << out;
 
-    out.clear();
-    EXPECT_EQ(runClosureCommand({"no-such-deed.map"}, out, err), 1);
-    EXPECT_NE(err.find("File no-such-deed.map not found."), std::string::npos) << err;
-    EXPECT_EQ(runClosureCommand({}, out, err), 2);
-    EXPECT_EQ(runClosureCommand({"--frobnicate", kBlunder}, out, err), 2);
-    EXPECT_EQ(runClosureCommand({kBlunder, kBlunder}, out, err), 2);
+    const test::CommandRun missing = closure({"no-such-deed.map"});
+    EXPECT_EQ(missing.status, 1);
+    EXPECT_NE(missing.err.find("File no-such-deed.map not found."), std::string::npos) << missing.err;
+    for (const Args &usage : {Args{}, Args{"--frobnicate", kBlunder}, Args{kBlunder, kBlunder}})
+        EXPECT_EQ(closure(usage).status, 2);
 }

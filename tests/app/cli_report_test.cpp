@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "cli.h"
+#include "cli_run.h"
 
 using namespace quilmar;
 
@@ -30,35 +30,16 @@ std::string writeFile(const std::string &name, const std::string &bytes)
     return path.string();
 }
 
-// Runs `quilmar NAME args...` without a process.
-int run(const char *name, Args args, std::string &out, std::string &err)
-{
-    args.insert(args.begin(), name);
-    CommandIo io;
-    const int status = runCommandLine(args, io);
-    out = io.out;
-    err = io.err;
-    return status;
-}
+using test::CommandRun;
 
 std::string sampleFile(int n)
 {
-    std::string out, err;
-    EXPECT_EQ(run("sample", {std::to_string(n)}, out, err), 0);
-    return writeFile("sample" + std::to_string(n) + ".map", out);
+    const CommandRun r = test::runCli("sample", {std::to_string(n)});
+    EXPECT_EQ(r.status, 0);
+    return writeFile("sample" + std::to_string(n) + ".map", r.out);
 }
 
-struct Outcome {
-    int status;
-    std::string out, err;
-};
-
-Outcome report(const Args &args)
-{
-    Outcome r;
-    r.status = run("report", args, r.out, r.err);
-    return r;
-}
+CommandRun report(const Args &args) { return test::runCli("report", args); }
 
 } // namespace
 
@@ -89,7 +70,7 @@ TEST(CliReport, DemoSamples)
             "2652 Square Meters [0.27 Ha]\n"},
     };
     for (const Case &c : cases) {
-        Outcome r = report({sampleFile(c.sample)});
+        CommandRun r = report({sampleFile(c.sample)});
         EXPECT_EQ(r.status, 0);
         EXPECT_EQ(r.out, c.expected) << "sample " << c.sample;
         EXPECT_EQ(r.err, "");
@@ -98,7 +79,7 @@ TEST(CliReport, DemoSamples)
 
 TEST(CliReport, JsonCarriesLegsPointsAndCommands)
 {
-    Outcome r = report({"--json", sampleFile(4)});
+    CommandRun r = report({"--json", sampleFile(4)});
     ASSERT_EQ(r.status, 0) << r.err;
     const QJsonObject o = QJsonDocument::fromJson(QByteArray::fromStdString(r.out)).object();
     EXPECT_EQ(o["units"].toString(), "feet");
@@ -133,11 +114,11 @@ TEST(CliReport, OverridesAndRefusals)
 {
     // An open corner: both area commands refuse, each with its own message line.
     const std::string open = writeFile("open.map", "N\t\t\t\t\t100\t\t\t\t\r\nE\t\t\t\t\t100\t\t\t\t\r\n~\r\n*spec=1Small\r\n");
-    Outcome r = report({open});
+    CommandRun r = report({open});
     // Each refusal is its own "! " line; the result line keeps the perimeter.
     EXPECT_TRUE(r.out.ends_with("gap information.\nPerimeter = 200.00\n! Before you can calculate the hectares, please "
                                 "close the 141  gap.\nPerimeter = 200.00\n"));
-    Outcome j = report({"--json", "--units", "other", "--scale", "Maximum", "--canvas", "1440x1440", open});
+    CommandRun j = report({"--json", "--units", "other", "--scale", "Maximum", "--canvas", "1440x1440", open});
     const QJsonObject o = QJsonDocument::fromJson(QByteArray::fromStdString(j.out)).object();
     EXPECT_EQ(o["units"].toString(), "other");
     EXPECT_EQ(o["scale"].toString(), "Maximum");
@@ -166,7 +147,7 @@ TEST(CliReport, BadInput)
         {{tempDir().string()}, 1, "Cannot read"},
     };
     for (const Case &c : cases) {
-        Outcome r = report(c.args);
+        CommandRun r = report(c.args);
         EXPECT_EQ(r.status, c.status);
         EXPECT_NE(r.err.find(c.errPart), std::string::npos) << r.err;
         EXPECT_EQ(r.out, "");
@@ -175,8 +156,6 @@ TEST(CliReport, BadInput)
 
 TEST(CliSample, OnlyOneToSix)
 {
-    for (const char *bad : {"0", "7", "x", ""}) {
-        std::string o, e;
-        EXPECT_EQ(run("sample", {bad}, o, e), 1) << bad;
-    }
+    for (const char *bad : {"0", "7", "x", ""})
+        EXPECT_EQ(test::runCli("sample", {bad}).status, 1) << bad;
 }
