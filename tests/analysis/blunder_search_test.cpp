@@ -28,16 +28,6 @@ bool sameCall(const Cells &a, const Cells &b)
     return true;
 }
 
-CourseTable tableOf(const std::vector<Cells> &rows)
-{
-    CourseTable t;
-    for (size_t r = 0; r < rows.size(); ++r)
-        for (int c = 0; c < CourseTable::kColumns; ++c)
-            t.at(int(r), c + 1) = Cell(rows[r][c]);
-    t.gethighest();
-    return t;
-}
-
 std::string fixed2(double v)
 {
     char buf[32];
@@ -220,7 +210,7 @@ void expectPlantedMistakesFound(bool mixed, unsigned seed, int trials)
         const Cells original = rows[call + 1];
         if (!plant(kind, rows, call + 1, rng, chains))
             continue;
-        const CourseTable table = tableOf(rows);
+        const CourseTable table = test::makeTable(rows);
         const ClosureReport report = analyseClosure(table);
         ASSERT_EQ(report.lots.size(), 1u);
         const LotReport &lot = report.lots[0];
