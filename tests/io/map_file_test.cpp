@@ -47,13 +47,6 @@ protected:
     fs::path m_dir;
 };
 
-TEST(MapFileBytes, EmptyTableIsSixteenBlankLinesAndTail)
-{
-    // highest 10 -> rows 0..15.
-    EXPECT_EQ(mapFileBytes(CourseTable{}, "", Units::Feet, "Standard"),
-              repeat(kBlankLine, 16) + "~\r\n*spec=0Standard\r\n");
-}
-
 TEST(MapFileBytes, Tail)
 {
     struct Case { std::string description; Units unit; std::string scale; std::string tail; };
@@ -83,6 +76,7 @@ TEST(MapFileBytes, CellsOfOneLine)
 
 TEST(MapFileBytes, CourseLinesEndAtHighestPlusFiveClippedAtRow201)
 {
+    // An empty table has highest 10: rows 0..15.
     const std::pair<int, int> highestAndLines[] = {{10, 16}, {150, 156}, {196, 202}, {197, 202},
                                                    {202, 202}, {-5, 1}, {-6, 0}};
     for (const auto &[highest, lines] : highestAndLines) {
