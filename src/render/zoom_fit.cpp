@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "fit_walk.h"
 #include "number_read.h"
 #include "vb_math.h"
 
@@ -11,51 +12,21 @@ namespace quilmar {
 ZoomFit zoomFit(const LegTable &legs, float width, float height, TraverseState &state)
 {
     ZoomFit fit;
-    PointF run;
-    float minX = 0, minY = 0, maxX = 0, maxY = 0;
+    FitWalk walk;
     auto fitExtents = [&] {
-        float extX = sng(double(maxX) - minX), extY = sng(double(maxY) - minY);
-        if (extX == 0.0f)
-            extX = 1.0f;
-        if (extY == 0.0f)
-            extY = 1.0f;
+        const float extX = walk.extentX(), extY = walk.extentY();
         const float fx = sng(width / extX), fy = sng(height / extY);
         fit.scaleFactor = sng(double(fx < fy ? fx : fy) * 0.95);
         const double sf = fit.scaleFactor;
-        fit.scaleLeft = sng(std::floor(sf * minX - (width - sf * extX) / 2.0));
-        fit.scaleTop = sng(std::floor(sf * minY - (height - sf * extY) / 2.0));
+        fit.scaleLeft = sng(std::floor(sf * walk.minX - (width - sf * extX) / 2.0));
+        fit.scaleTop = sng(std::floor(sf * walk.minY - (height - sf * extY) / 2.0));
     };
-    bool rowsDone = false;
     try {
-        for (const Leg &leg : legs) {
-            // The same steps as the main fit's walk (a curve of radius "0" is a curve).
-            const double radius = leg.radiusTyped ? leg.radius + 0.01 : 0.0;
-            const Tag tag = leg.tag;
-            if (tag == Tag::NewLot)
-                run = state.origin;
-            if (radius == 0.0) {
-                run = {sng(run.x + leg.cosine * leg.distance), sng(run.y + leg.sine * leg.distance)};
-            } else {
-                const double a = double(leg.directionValue()) * kPi / 180.0;
-                run = {sng(run.x - std::cos(kPi - a) * leg.chord), sng(run.y + std::sin(kPi - a) * leg.chord)};
-            }
-            minX = std::min(minX, run.x);
-            minY = std::min(minY, run.y);
-            maxX = std::max(maxX, run.x);
-            maxY = std::max(maxY, run.y);
-            rowsDone = true;
-            if (tag == Tag::Begin) {
-                state.pob = run;
-            } else if (tag == Tag::Origin) {
-                state.origin = run;
-                state.pob = run;
-            } else if (tag == Tag::Close) {
-                run = state.pob;
-            }
-        }
+        // The main fit's walk: the same extents.
+        walkForFit(legs, state, walk);
         fitExtents();
     } catch (const VbError &) {
-        if (rowsDone) {
+        if (walk.rowsDone) {
             try {
                 fitExtents();
             } catch (const VbError &) {
