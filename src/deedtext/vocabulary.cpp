@@ -155,6 +155,14 @@ WordSet setOf(const Table &table)
 {
     return WordSet(std::begin(table), std::end(table));
 }
+
+// Whether @p word is in @p table, looked up in a set built on first use.
+template <const auto &table> bool inTable(std::string_view word)
+{
+    static const WordSet words = setOf(table);
+    return words.count(word) != 0;
+}
+
 template <typename Table>
 auto mapOf(const Table &table)
 {
@@ -203,40 +211,12 @@ std::string_view repairedWord(std::string_view word)
 }
 
 bool isThenceWord(std::string_view word) { return word == "thence" || word == "then" || word == "thenc"; }
-bool isApproximateDirection(std::string_view word)
-{
-    static const WordSet words = setOf(kApproximate);
-    return words.count(word) != 0;
-}
-bool isSideNoun(std::string_view word)
-{
-    static const WordSet words = setOf(kSideNouns);
-    return words.count(word) != 0;
-}
-bool isLabelWord(std::string_view word)
-{
-    static const WordSet words = setOf(kLabelWords);
-    return words.count(word) != 0;
-}
-bool isWidthNoun(std::string_view word)
-{
-    static const WordSet words = setOf(kWidthNouns);
-    return words.count(word) != 0;
-}
-bool isMarkerNoun(std::string_view word)
-{
-    static const WordSet words = setOf(kMarkerNouns);
-    return words.count(word) != 0;
-}
-bool isCallCutWord(std::string_view word)
-{
-    static const WordSet words = setOf(kCallCut);
-    return words.count(word) != 0;
-}
-bool isAreaWord(std::string_view word)
-{
-    static const WordSet words = setOf(kAreaWords);
-    return words.count(word) != 0;
-}
+bool isApproximateDirection(std::string_view word) { return inTable<kApproximate>(word); }
+bool isSideNoun(std::string_view word) { return inTable<kSideNouns>(word); }
+bool isLabelWord(std::string_view word) { return inTable<kLabelWords>(word); }
+bool isWidthNoun(std::string_view word) { return inTable<kWidthNouns>(word); }
+bool isMarkerNoun(std::string_view word) { return inTable<kMarkerNouns>(word); }
+bool isCallCutWord(std::string_view word) { return inTable<kCallCut>(word); }
+bool isAreaWord(std::string_view word) { return inTable<kAreaWords>(word); }
 
 } // namespace quilmar::deedtext
