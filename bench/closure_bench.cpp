@@ -7,6 +7,7 @@
 #include <string>
 
 #include "closure_report.h"
+#include "full_table.h"
 
 namespace {
 
@@ -18,33 +19,13 @@ quilmar::CourseTable fullDeed()
     for (int r = 1; r < CourseTable::kRows - 1; ++r) {
         const std::string distance = std::to_string(100 + (r * 37) % 400) + "." + std::to_string(10 + r % 90);
         switch (r % 5) {
-        case 0: // tangent curve
-            t.at(r, ColDistance) = distance;
-            t.at(r, ColRadius) = std::to_string(300 + (r * 13) % 500);
-            t.at(r, ColLR) = r % 2 ? "R" : "L";
-            break;
-        case 2: // turned course
-            t.at(r, ColNS) = r % 4 < 2 ? "+" : "-";
-            t.at(r, ColDeg) = std::to_string(10 + r % 50);
-            t.at(r, ColDistance) = distance;
-            break;
-        case 3: // curve by chord and bearing
-            t.at(r, ColNS) = "S";
-            t.at(r, ColDeg) = std::to_string(r % 90);
+        case 0: bench::setTangentCurve(t, r, distance); break;
+        case 2: bench::setTurnedCourse(t, r, distance); break;
+        case 3:
+            bench::setCurveByChord(t, r);
             t.at(r, ColMin) = std::to_string((r * 7) % 60);
-            t.at(r, ColEW) = "W";
-            t.at(r, ColChord) = std::to_string(100 + r % 150);
-            t.at(r, ColRadius) = "400";
-            t.at(r, ColLR) = r % 2 ? "L" : "R";
             break;
-        default: // quadrant bearing
-            t.at(r, ColNS) = r % 4 < 2 ? "N" : "S";
-            t.at(r, ColDeg) = std::to_string((r * 7) % 90);
-            t.at(r, ColMin) = std::to_string((r * 11) % 60);
-            t.at(r, ColSec) = std::to_string((r * 17) % 60);
-            t.at(r, ColEW) = r % 3 ? "E" : "W";
-            t.at(r, ColDistance) = distance;
-            break;
+        default: bench::setQuadrantBearing(t, r, distance); break;
         }
     }
     t.at(CourseTable::kRows - 1, ColTag) = "C";

@@ -9,41 +9,19 @@
 #include <QApplication>
 
 #include "plotter.h"
+#include "window_setup.h"
 
 namespace {
 
 using namespace quilmar;
 
-class Quiet : public Dialogs {
-public:
-    Answer ask(const std::string &, const std::string &, Buttons, Icon) override { return Answer::Ok; }
-    std::optional<std::string> inputBox(const std::string &, const std::string &, const std::string &) override
-    {
-        return std::nullopt;
-    }
-    std::optional<std::string> fileName(FileMode, const std::string &, const std::string &) override
-    {
-        return std::nullopt;
-    }
-    bool print(const std::string &, const Printout &) override { return false; }
-    void preview(const std::string &, const Printout &) override {}
-};
-
 void BM_CopyMapToClipboard(benchmark::State &state)
 {
-    Quiet dialogs;
+    bench::QuietDialogs dialogs;
     const auto folder = std::filesystem::temp_directory_path() / "quilmar_bench_commands";
     std::filesystem::create_directories(folder);
     Plotter w(dialogs, startupOptionsIn(folder.string() + "/", "quilmar", true));
-    CourseTable &t = w.engine().editTable();
-    t.at(0, ColTag) = "B";
-    for (int r = 1; r < CourseTable::kRows; ++r) {
-        t.at(r, ColNS) = r % 2 ? "N" : "S";
-        t.at(r, ColDeg) = std::to_string((r * 7) % 90);
-        t.at(r, ColEW) = r % 3 ? "E" : "W";
-        t.at(r, ColDistance) = std::to_string(100 + (r * 37) % 400);
-    }
-    t.gethighest();
+    bench::fillBearingTable(w.engine().editTable());
     w.resize(1100, 700);
     w.show();
     QApplication::processEvents();

@@ -11,41 +11,19 @@
 
 #include "entry_grid.h"
 #include "plotter.h"
+#include "window_setup.h"
 
 namespace {
 
 using namespace quilmar;
 
-class Silent : public Dialogs {
-public:
-    Answer ask(const std::string &, const std::string &, Buttons, Icon) override { return Answer::Ok; }
-    std::optional<std::string> inputBox(const std::string &, const std::string &, const std::string &) override
-    {
-        return std::nullopt;
-    }
-    std::optional<std::string> fileName(FileMode, const std::string &, const std::string &) override
-    {
-        return std::nullopt;
-    }
-    bool print(const std::string &, const quilmar::Printout &) override { return false; }
-    void preview(const std::string &, const quilmar::Printout &) override {}
-};
-
 void BM_LeaveChangedDistance(benchmark::State &state)
 {
-    Silent dialogs;
+    bench::QuietDialogs dialogs;
     const auto folder = std::filesystem::temp_directory_path() / "quilmar_bench_window";
     std::filesystem::create_directories(folder);
     Plotter w(dialogs, startupOptionsIn(folder.string(), "quilmar", true));
-    CourseTable &t = w.engine().editTable();
-    t.at(0, ColTag) = "B";
-    for (int r = 1; r < CourseTable::kRows; ++r) {
-        t.at(r, ColNS) = r % 2 ? "N" : "S";
-        t.at(r, ColDeg) = std::to_string((r * 7) % 90);
-        t.at(r, ColEW) = r % 3 ? "E" : "W";
-        t.at(r, ColDistance) = std::to_string(100 + (r * 37) % 400);
-    }
-    t.gethighest();
+    bench::fillBearingTable(w.engine().editTable());
     w.grid().rules().populatefields();
     w.grid().sync();
     w.show();
