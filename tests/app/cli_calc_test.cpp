@@ -1,10 +1,10 @@
 #include "cli_run.h"
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 #include <gtest/gtest.h>
+
+#include "temp_folder.h"
 
 namespace quilmar {
 namespace {
@@ -55,22 +55,9 @@ TEST(CliCalc, UsageErrors)
 
 class CliConvert : public ::testing::Test {
 protected:
-    void SetUp() override
-    {
-        m_dir = std::filesystem::temp_directory_path() /
-                ("quilmar_cli_convert_" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
-        std::filesystem::create_directories(m_dir);
-    }
-    void TearDown() override { std::filesystem::remove_all(m_dir); }
-
-    std::string file(const std::string &name) { return (m_dir / name).string(); }
-    std::string write(const std::string &name, const std::string &bytes)
-    {
-        std::ofstream(file(name), std::ios::binary) << bytes;
-        return file(name);
-    }
-
-    std::filesystem::path m_dir;
+    test::TempFolder m_folder;
+    std::string file(const std::string &name) { return m_folder.file(name); }
+    std::string write(const std::string &name, const std::string &bytes) { return m_folder.write(name, bytes); }
 };
 
 TEST_F(CliConvert, MetersToFeetSelectsFeet)
@@ -91,10 +78,9 @@ TEST_F(CliConvert, FeetToMetersIntoAFile)
     const CommandRun r = runCli("convert", {"feet", in, "-o", file("out.map")});
     ASSERT_EQ(r.status, 0) << r.err;
     EXPECT_EQ(r.out, "");
-    std::stringstream bytes;
-    bytes << std::ifstream(file("out.map"), std::ios::binary).rdbuf();
-    EXPECT_EQ(bytes.str().rfind("S\t\t\t\t\t100\t", 0), 0u); // 328.1 / 3.281
-    EXPECT_NE(bytes.str().find("*spec=1Standard\r\n"), std::string::npos);
+    const std::string bytes = test::fileBytes(file("out.map"));
+    EXPECT_EQ(bytes.rfind("S\t\t\t\t\t100\t", 0), 0u); // 328.1 / 3.281
+    EXPECT_NE(bytes.find("*spec=1Standard\r\n"), std::string::npos);
 }
 
 TEST_F(CliConvert, FailuresWriteNothing)

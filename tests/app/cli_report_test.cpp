@@ -4,39 +4,21 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <filesystem>
-#include <fstream>
-
 #include "cli_run.h"
+#include "temp_folder.h"
 
 using namespace quilmar;
 
 namespace {
 
-std::filesystem::path tempDir()
-{
-    static const std::filesystem::path dir = [] {
-        auto d = std::filesystem::temp_directory_path() / ("quilmar_cli_" + std::to_string(::getpid()));
-        std::filesystem::create_directories(d);
-        return d;
-    }();
-    return dir;
-}
-
-std::string writeFile(const std::string &name, const std::string &bytes)
-{
-    const auto path = tempDir() / name;
-    std::ofstream(path, std::ios::binary) << bytes;
-    return path.string();
-}
-
 using test::CommandRun;
 
-std::string sampleFile(int n)
+// The map file of demo sample @p n, written into @p folder.
+std::string sampleFile(const test::TempFolder &folder, int n)
 {
     const CommandRun r = test::runCli("sample", {std::to_string(n)});
     EXPECT_EQ(r.status, 0);
-    return writeFile("sample" + std::to_string(n) + ".map", r.out);
+    return folder.write("sample" + std::to_string(n) + ".map", r.out);
 }
 
 CommandRun report(const Args &args) { return test::runCli("report", args); }
@@ -45,6 +27,7 @@ CommandRun report(const Args &args) { return test::runCli("report", args); }
 
 TEST(CliReport, DemoSamples)
 {
+    const test::TempFolder folder;
     // Worked by hand: sample 1 ends at (-96.61, 1735.99) before closing, POB
     // (0, 1000): 742.32 back N 7 28' 42'' E. Sample 4's two lots: 4000 + 509.90
     // perimeter; lot 1 adds 1,000,000, lot 2's shoelace from the first lot's
@@ -70,7 +53,7 @@ TEST(CliReport, DemoSamples)
             "2652 Square Meters [0.27 Ha]\n"},
     };
     for (const Case &c : cases) {
-        CommandRun r = report({sampleFile(c.sample)});
+        CommandRun r = report({sampleFile(folder, c.sample)});
         EXPECT_EQ(r.status, 0);
         EXPECT_EQ(r.out, c.expected) << "sample " << c.sample;
         EXPECT_EQ(r.err, "");
@@ -79,7 +62,8 @@ TEST(CliReport, DemoSamples)
 
 TEST(CliReport, JsonCarriesLegsPointsAndCommands)
 {
-    CommandRun r = report({"--json", sampleFile(4)});
+    const test::TempFolder folder;
+    CommandRun r = report({"--json", sampleFile(folder, 4)});
     ASSERT_EQ(r.status, 0) << r.err;
     const QJsonObject o = QJsonDocument::fromJson(QByteArray::fromStdString(r.out)).object();
     EXPECT_EQ(o["units"].toString(), "feet");
@@ -112,8 +96,9 @@ TEST(CliReport, JsonCarriesLegsPointsAndCommands)
 
 TEST(CliReport, OverridesAndRefusals)
 {
+    const test::TempFolder folder;
     // An open corner: both area commands refuse, each with its own message line.
-    const std::string open = writeFile("open.map", "N\t\t\t\t\t100\t\t\t\t\r\nE\t\t\t\t\t100\t\t\t\t\r\n~\r\n*spec=1Small\r\n");
+    const std::string open = folder.write("open.map", "N\t\t\t\t\t100\t\t\t\t\r\nE\t\t\t\t\t100\t\t\t\t\r\n~\r\n*spec=1Small\r\n");
     CommandRun r = report({open});
     // Each refusal is its own "! " line; the result line keeps the perimeter.
     EXPECT_TRUE(r.out.ends_with("gap information.\nPerimeter = 200.00\n! Before you can calculate the hectares, please "
@@ -131,12 +116,13 @@ TEST(CliReport, OverridesAndRefusals)
 
 TEST(CliReport, BadInput)
 {
+    const test::TempFolder folder;
     struct Case {
         Args args;
         int status;
         const char *errPart;
     };
-    const std::string missing = (tempDir() / "nowhere.map").string();
+    const std::string missing = folder.file("nowhere.map");
     const Case cases[] = {
         {{missing}, 1, "not found."},
         {{}, 2, "no map file"},
@@ -144,7 +130,7 @@ TEST(CliReport, BadInput)
         {{"--canvas", "12by5", missing}, 2, "--canvas"},
         {{"--bogus", missing}, 2, "unknown option"},
         {{"--scale", "abc", missing}, 2, "--scale must be"},
-        {{tempDir().string()}, 1, "Cannot read"},
+        {{folder.path().string()}, 1, "Cannot read"},
     };
     for (const Case &c : cases) {
         CommandRun r = report(c.args);

@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <random>
 
 #include "map_file.h"
+#include "temp_folder.h"
 
 namespace quilmar {
 namespace {
@@ -24,27 +24,10 @@ std::string repeat(const std::string &s, int n)
 
 class MapFileTest : public ::testing::Test {
 protected:
-    void SetUp() override
-    {
-        m_dir = fs::temp_directory_path()
-            / ("quilmar_io_test_" + std::to_string(std::random_device{}()));
-        fs::create_directories(m_dir);
-    }
-    void TearDown() override { fs::remove_all(m_dir); }
+    std::string put(const std::string &bytes, const std::string &name = "t.map") { return m_folder.write(name, bytes); }
 
-    std::string put(const std::string &bytes, const std::string &name = "t.map")
-    {
-        const std::string path = (m_dir / name).string();
-        std::ofstream(path, std::ios::binary) << bytes;
-        return path;
-    }
-    static std::string contents(const std::string &path)
-    {
-        std::ifstream in(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(in), {}};
-    }
-
-    fs::path m_dir;
+    test::TempFolder m_folder;
+    const fs::path &m_dir = m_folder.path();
 };
 
 TEST(MapFileBytes, Tail)
@@ -220,7 +203,7 @@ TEST_F(MapFileTest, WriteReplacesInOnePieceAndLeavesNoTemporaryFile)
     const std::string path = put("old", "deed.map");
     std::string error;
     ASSERT_TRUE(writeMapFile(path, "new\0bytes"s, &error)) << error;
-    EXPECT_EQ(contents(path), "new\0bytes"s);
+    EXPECT_EQ(test::fileBytes(path), "new\0bytes"s);
     EXPECT_FALSE(writeMapFile(m_dir.string(), "x", &error)); // a folder
     EXPECT_FALSE(writeMapFile((m_dir / "no folder" / "a.map").string(), "x", &error));
     EXPECT_FALSE(error.empty());

@@ -2,39 +2,24 @@
 
 #include <filesystem>
 #include <fstream>
-#include <random>
 #include <set>
 #include <sys/mount.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "safe_file.h"
+#include "temp_folder.h"
 
 namespace quilmar {
 namespace {
 
 namespace fs = std::filesystem;
 
-std::string slurp(const fs::path &path)
-{
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
+using test::fileBytes;
 
 class SafeFileTest : public ::testing::Test {
 protected:
-    void SetUp() override
-    {
-        m_dir = fs::temp_directory_path() / ("quilmar_safe_" + std::to_string(std::random_device{}()));
-        fs::create_directories(m_dir);
-    }
-    void TearDown() override { fs::remove_all(m_dir); }
-
-    fs::path put(const std::string &name, const std::string &bytes)
-    {
-        std::ofstream(m_dir / name, std::ios::binary) << bytes;
-        return m_dir / name;
-    }
+    fs::path put(const std::string &name, const std::string &bytes) { return m_folder.write(name, bytes); }
     // Nothing but the named entries is left in the folder: no temporary file.
     void expectOnly(std::initializer_list<std::string> names)
     {
@@ -43,7 +28,8 @@ protected:
             left.insert(entry.path().filename().string());
         EXPECT_EQ(left, std::set<std::string>(names));
     }
-    fs::path m_dir;
+    test::TempFolder m_folder;
+    const fs::path &m_dir = m_folder.path();
 };
 
 TEST_F(SafeFileTest, ReplacesAFileAndFollowsALinkToIt)
@@ -53,7 +39,7 @@ TEST_F(SafeFileTest, ReplacesAFileAndFollowsALinkToIt)
     const FileOutcome out = writeFileSafely((m_dir / "link.map").string(), "new");
     ASSERT_TRUE(out.ok) << out.error;
     EXPECT_TRUE(fs::is_symlink(m_dir / "link.map")); // the link stays a link
-    EXPECT_EQ(slurp(real), "new");
+    EXPECT_EQ(fileBytes(real), "new");
     expectOnly({"real.map", "link.map"});
 }
 
@@ -97,7 +83,7 @@ TEST_F(SafeFileTest, AFullDiskKeepsTheOldFile)
     const FileOutcome out = writeFileSafely((small / "deed.map").string(), std::string(256 * 1024, 'x'));
     EXPECT_FALSE(out.ok);
     EXPECT_NE(out.error.find("No space left on device"), std::string::npos) << out.error;
-    EXPECT_EQ(slurp(small / "deed.map"), "the old deed");
+    EXPECT_EQ(fileBytes(small / "deed.map"), "the old deed");
     EXPECT_EQ(std::distance(fs::directory_iterator(small), fs::directory_iterator()), 1);
     umount(small.c_str());
 }

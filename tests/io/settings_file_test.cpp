@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
+#include "temp_folder.h"
 
 using namespace quilmar;
 
@@ -11,24 +10,15 @@ namespace {
 
 class Settings : public ::testing::Test {
 protected:
-    std::filesystem::path dir = std::filesystem::temp_directory_path() /
-                                ("quilmar_ini_" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
-                                 ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    void SetUp() override { std::filesystem::create_directories(dir); }
-    void TearDown() override { std::filesystem::remove_all(dir); }
-    SettingsValues read(const std::string &content)
-    {
-        const auto path = dir / "quilmar.ini";
-        std::ofstream(path, std::ios::binary) << content;
-        return readSettings(path.string());
-    }
+    test::TempFolder folder;
+    SettingsValues read(const std::string &content) { return readSettings(folder.write("quilmar.ini", content)); }
 };
 
 } // namespace
 
 TEST_F(Settings, MissingFileGivesTheDefaults)
 {
-    const SettingsValues s = readSettings((dir / "none.ini").string());
+    const SettingsValues s = readSettings(folder.file("none.ini"));
     EXPECT_EQ(s.scales, "50;100;200;400;800;1500;2000;3000;4000");
     EXPECT_EQ(s.scaleMetric, 576.0f);
     EXPECT_EQ(s.scaleEnglish, 1440.0f);

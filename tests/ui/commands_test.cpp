@@ -280,10 +280,7 @@ TEST_F(Commands, PrintMapAndDataThroughThePrintDialog)
     dialogs.copies = 2;
     trigger("FilePrintmap");
     EXPECT_EQ(dialogs.printedPages, 2); // each copy its own page
-    const auto &calls = dialogs.printed.calls();
-    EXPECT_EQ(std::count_if(calls.begin(), calls.end(),
-                            [](const std::string &c) { return c.find("Scale = 1:") != std::string::npos; }),
-              2);
+    EXPECT_EQ(test::callsContaining(dialogs.printed, "Scale = 1:").size(), 2u);
     EXPECT_TRUE(printedText("(Feet)"));
     EXPECT_TRUE(printedText("TANGENTS"));   // the heading
     EXPECT_TRUE(printedText("1  S 1000"));  // the reference list
@@ -333,7 +330,7 @@ TEST_F(Commands, HelpManualSamplesAndAbout)
     EXPECT_EQ(dialogs.asked[0].text, "Cannot find " + (dir / "manual.rtf").string() + " file.");
     EXPECT_EQ(dialogs.asked[0].icon, Icon::None);
     dialogs.asked.clear();
-    std::ofstream(dir / "manual.rtf") << "{\\rtf1 x}";
+    folder.write("manual.rtf", "{\\rtf1 x}");
     std::string opened;
     w->openWithDesktop = [&](const std::string &p) { return opened = p, true; };
     trigger("mnuManual");
@@ -414,8 +411,7 @@ TEST_F(Commands, TheMapPrintoutAsAPdfReadBackAndExitAsButtonSeven)
         << error;
     const std::string command = "pdftotext " + pdf.string() + " " + (dir / "map.txt").string();
     ASSERT_EQ(std::system(command.c_str()), 0);
-    std::ifstream in(dir / "map.txt");
-    const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    const std::string text = test::fileBytes(dir / "map.txt");
     EXPECT_NE(text.find("Scale = 1:"), std::string::npos) << text;
     EXPECT_NE(text.find("(Feet)"), std::string::npos);
     EXPECT_NE(text.find("E 1000"), std::string::npos);

@@ -4,7 +4,6 @@
 #include <sys/resource.h>
 
 #include <csignal>
-#include <sstream>
 
 #include <QComboBox>
 #include <QPlainTextEdit>
@@ -196,9 +195,8 @@ TEST_F(Window, SaveOpenAndAFailedSaveKeepsTheOldFile)
     const fs::path path = dir / "lot.map";
     dialogs.files = {path.string()};
     w->saveit(1);
-    std::stringstream saved;
-    saved << std::ifstream(path, std::ios::binary).rdbuf();
-    EXPECT_EQ(saved.str().substr(0, 13), "N\t10\t\t\tE\t250\t");
+    const std::string saved = test::fileBytes(path);
+    EXPECT_EQ(saved.substr(0, 13), "N\t10\t\t\tE\t250\t");
 
     // Overwrite refused.
     dialogs.files = {path.string()};
@@ -221,18 +219,14 @@ TEST_F(Window, SaveOpenAndAFailedSaveKeepsTheOldFile)
     w->saveit(1);
     setrlimit(RLIMIT_FSIZE, &old);
     std::signal(SIGXFSZ, previous);
-    std::stringstream after;
-    after << std::ifstream(path, std::ios::binary).rdbuf();
-    EXPECT_EQ(after.str(), saved.str());
+    EXPECT_EQ(test::fileBytes(path), saved);
     EXPECT_EQ(std::distance(fs::directory_iterator(dir), fs::directory_iterator{}), 1); // no temporary left
 
     if (::geteuid() != 0) { // a read-only folder stops everyone but root
         fs::permissions(dir, fs::perms::owner_write, fs::perm_options::remove);
         dialogs.files = {path.string()};
         w->saveit(1);
-        std::stringstream ro;
-        ro << std::ifstream(path, std::ios::binary).rdbuf();
-        EXPECT_EQ(ro.str(), saved.str());
+        EXPECT_EQ(test::fileBytes(path), saved);
         fs::permissions(dir, fs::perms::owner_write, fs::perm_options::add);
     }
 

@@ -4,8 +4,6 @@
 
 #include "session_recovery.h"
 
-#include <unistd.h>
-
 #include <filesystem>
 
 #include <QComboBox>
@@ -16,6 +14,7 @@
 #include "plotter.h"
 #include "run_window.h"
 #include "scripted_dialogs.h"
+#include "temp_folder.h"
 
 using namespace quilmar;
 namespace fs = std::filesystem;
@@ -24,15 +23,13 @@ namespace {
 
 class Recovery : public ::testing::Test {
 protected:
-    fs::path dir = fs::temp_directory_path() / ("quilmar_recovery_" + std::to_string(::getpid()));
-    std::string file = (dir / "recovery.map").string();
+    test::TempFolder dir;
+    std::string file = dir.file("recovery.map");
     ScriptedDialogs dialogs;
 
-    void SetUp() override { fs::create_directories(dir); }
-    void TearDown() override { fs::remove_all(dir); }
     std::unique_ptr<Plotter> window()
     {
-        auto w = std::make_unique<Plotter>(dialogs, startupOptionsIn(dir.string(), "quilmar", true));
+        auto w = std::make_unique<Plotter>(dialogs, startupOptionsIn(dir.path().string(), "quilmar", true));
         w->show();
         return w;
     }

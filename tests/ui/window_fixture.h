@@ -3,11 +3,7 @@
 // on the offscreen platform, with every question answered by ScriptedDialogs;
 // shared by the window's test files.
 
-#include <unistd.h>
-
-#include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <string>
 
@@ -22,37 +18,27 @@
 
 #include "entry_grid.h"
 #include "plotter.h"
+#include "recorded_calls.h"
 #include "scripted_dialogs.h"
+#include "temp_folder.h"
 
 namespace quilmar::test {
 
 class WindowTest : public ::testing::Test {
 protected:
-    std::filesystem::path dir = std::filesystem::temp_directory_path() /
-                                ("quilmar_" + std::to_string(::getpid()) +
-                                 ::testing::UnitTest::GetInstance()->current_test_info()->test_suite_name() +
-                                 ::testing::UnitTest::GetInstance()->current_test_info()->name());
+    TempFolder folder; // declared first: the window goes before its folder
+    const std::filesystem::path &dir = folder.path();
     ScriptedDialogs dialogs;
     std::unique_ptr<Plotter> w;
 
-    void SetUp() override
-    {
-        std::filesystem::create_directories(dir);
-        start(true);
-    }
-    void TearDown() override
-    {
-        w.reset();
-        // a test may have left the folder read-only
-        std::filesystem::permissions(dir, std::filesystem::perms::owner_all, std::filesystem::perm_options::add);
-        std::filesystem::remove_all(dir);
-    }
+    void SetUp() override { start(true); }
+    void TearDown() override { w.reset(); }
     /// A new window in English or metric measure; @p ini, when given, is written as its settings first.
     void start(bool english, const std::string &ini = {})
     {
         w.reset();
         if (!ini.empty())
-            std::ofstream(dir / "quilmar.ini") << ini;
+            folder.write("quilmar.ini", ini);
         w = std::make_unique<Plotter>(dialogs, startupOptionsIn(dir.string(), "quilmar", english));
         w->resize(1100, 700);
         w->show();
@@ -85,13 +71,8 @@ protected:
     std::string cell(int row, int column) { return w->engine().table().at(row, column).text(); }
     std::string acres() { return child<QLabel>("Acresbox")->text().toStdString(); }
     std::string clipboard() { return QApplication::clipboard()->text().toStdString(); }
-    /// Whether any recorded print call carries @p needle.
-    bool printedText(const std::string &needle)
-    {
-        const auto &calls = dialogs.printed.calls();
-        return std::any_of(calls.begin(), calls.end(),
-                           [&](const std::string &c) { return c.find(needle) != std::string::npos; });
-    }
+    /// Whether any call of the last printout carries @p needle.
+    bool printedText(const std::string &needle) { return !callsContaining(dialogs.printed, needle).empty(); }
 };
 
 } // namespace quilmar::test
