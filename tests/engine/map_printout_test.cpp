@@ -8,7 +8,7 @@
 
 #include "engine_fixture.h"
 #include "map_printout.h"
-#include "recording_surface.h"
+#include "recorded_calls.h"
 
 using namespace quilmar;
 
@@ -59,15 +59,6 @@ std::vector<Line> mapLines(const RecordingSurface &s)
     return lines;
 }
 
-std::vector<std::string> containing(const RecordingSurface &s, const std::string &part)
-{
-    std::vector<std::string> out;
-    for (const std::string &c : s.calls())
-        if (c.find(part) != std::string::npos)
-            out.push_back(c);
-    return out;
-}
-
 } // namespace
 
 TEST(MapPrintout, BalancedGapClosesThePrintedFigure)
@@ -97,7 +88,7 @@ TEST(MapPrintout, CaptionTellsThePrintedScale)
     Printout p(kOpenSquare);
     RecordingSurface page;
     printMapPage(p.engine, page, kLetterPage);
-    const std::vector<std::string> captions = containing(page, "Scale = 1: ");
+    const std::vector<std::string> captions = test::callsContaining(page, "Scale = 1: ");
     ASSERT_EQ(captions.size(), 1u);
     ASSERT_NE(captions[0].find(" (Feet)"), std::string::npos) << captions[0];
     const double n = std::stod(captions[0].substr(captions[0].find("1: ") + 3));
@@ -112,7 +103,7 @@ TEST(MapPrintout, NumericScaleDrawsAtItsFactor)
     Printout p(kOpenSquare, "1000:1");
     RecordingSurface page;
     printMapPage(p.engine, page, kLetterPage);
-    EXPECT_EQ(containing(page, "Scale = 1:1000 (Feet)").size(), 1u);
+    EXPECT_EQ(test::callsContaining(page, "Scale = 1:1000 (Feet)").size(), 1u);
     EXPECT_FLOAT_EQ(p.engine.scaleFactor(), 1.44f);
     // the printed figure stays centred in the map area
     const std::vector<Line> lines = mapLines(page);
@@ -155,7 +146,7 @@ TEST(MapPrintout, ReferenceLabelsFollowTheOption)
         RecordingSurface page;
         printMapPage(p.engine, page, kLetterPage);
         // the four legs' labels "1 " to "4 ", each left of its leg's start
-        EXPECT_EQ(containing(page, "#000080 text").size(), on ? 4u : 0u);
+        EXPECT_EQ(test::callsContaining(page, "#000080 text").size(), on ? 4u : 0u);
     }
 }
 
@@ -169,11 +160,11 @@ TEST(MapPrintout, CopiesRepeatThePageAndStateIsPutBack)
     page.setFont({"Times", 10.0f, true});
     const float width = p.engine.canvasView().width;
     printMapPage(p.engine, page, kLetterPage, 2);
-    EXPECT_EQ(std::count(page.calls().begin(), page.calls().end(), "newPage"), 1);
-    EXPECT_EQ(containing(page, "Scale = 1: ").size(), 2u);
-    EXPECT_EQ(containing(page, "text 360 1080 0 Lot ").size(), 2u);
+    EXPECT_EQ(test::countOf(page, "newPage"), 1);
+    EXPECT_EQ(test::callsContaining(page, "Scale = 1: ").size(), 2u);
+    EXPECT_EQ(test::callsContaining(page, "text 360 1080 0 Lot ").size(), 2u);
     // no list, so no units suffix
-    EXPECT_TRUE(containing(page, "(Feet)").empty());
+    EXPECT_TRUE(test::callsContaining(page, "(Feet)").empty());
     EXPECT_EQ(page.calls().back(), "font Times 10 bold");
     EXPECT_FLOAT_EQ(p.engine.canvasView().width, width);
 }
@@ -195,9 +186,7 @@ TEST(DataPrintout, FixedPitchListingEndsWithEndAndPutsTheFontBack)
     const std::vector<std::string> &calls = page.calls();
     EXPECT_EQ(calls.front(), "font Courier 12 plain");
     EXPECT_EQ(calls.back(), "font Arial 8 plain");
-    EXPECT_NE(std::find_if(calls.begin(), calls.end(),
-                           [](const std::string &c) { return c.find(" 0 Lot 7") != std::string::npos; }),
-              calls.end());
+    EXPECT_FALSE(test::callsContaining(page, " 0 Lot 7").empty());
     EXPECT_EQ(calls[calls.size() - 2].substr(calls[calls.size() - 2].size() - 4), " end");
 }
 

@@ -9,28 +9,14 @@
 #include <vector>
 
 #include "print_page.h"
+#include "recorded_calls.h"
 #include "recording_surface.h"
 #include "text_pages.h"
 
 using namespace quilmar;
 
-namespace {
-
-std::vector<std::string> callsStarting(const RecordingSurface &s, const std::string &prefix)
-{
-    std::vector<std::string> out;
-    for (const std::string &c : s.calls())
-        if (c.rfind(prefix, 0) == 0)
-            out.push_back(c);
-    return out;
-}
-
-long countOf(const RecordingSurface &s, const std::string &call)
-{
-    return std::count(s.calls().begin(), s.calls().end(), call);
-}
-
-} // namespace
+using test::callsStarting;
+using test::countOf;
 
 TEST(PrintPage, NorthArrowIsSevenStepsAndAnN)
 {
