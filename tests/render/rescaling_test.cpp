@@ -1,24 +1,14 @@
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 #include "rescaling.h"
+#include "test_legs.h"
 #include "vb_math.h"
 
 using namespace quilmar;
 
 namespace {
 
-Leg course(float direction, double distance, Tag tag = Tag::None)
-{
-    Leg leg;
-    leg.direction = direction;
-    leg.cosine = std::cos(double(direction) * kPi / 180.0);
-    leg.sine = std::sin(double(direction) * kPi / 180.0);
-    leg.distance = distance;
-    leg.tag = tag;
-    return leg;
-}
+using test::course;
 
 FitResult fit(const LegTable &legs, const std::string &scale, bool printing = false, Units units = Units::Feet)
 {
@@ -41,28 +31,31 @@ TEST(Rescaling, LevelFactors)
         EXPECT_EQ(levelFactor(c.text), c.factor) << c.text;
 }
 
-TEST(Rescaling, ScreenFit)
+TEST(Rescaling, ScreenAndPrintedFactors)
 {
-    // East 100: extY is taken as 1, fx = 7200 / 100 = 72, fy = 4800: 72 * 0.72.
+    // East 100: extY is taken as 1, fx = 7200 / 100 = 72, fy = 4800: 72 * 0.72 = 51.84.
     const LegTable east{course(0.0f, 100)};
-    FitResult f = fit(east, "Standard");
-    EXPECT_FLOAT_EQ(f.scaleFactor, 51.84f);
+    const struct {
+        const char *scale;
+        bool printing;
+        Units units;
+        float factor;
+    } cases[] = {
+        {"Standard", false, Units::Feet, 51.84f},
+        {" 200", false, Units::Feet, 51.84f}, // on the screen a numeric scale does not change the fit
+        {"1000:1", true, Units::Feet, 1.44f},  // 1440 / 1000
+        {" 200", true, Units::Meters, 2.88f},  // 576 / 200
+        {" 200", true, Units::Other, 103.68f}, // doubled
+        {"Standard", true, Units::Feet, 103.68f},
+    };
+    for (const auto &c : cases)
+        EXPECT_FLOAT_EQ(fit(east, c.scale, c.printing, c.units).scaleFactor, c.factor) << c.scale << c.printing;
     // Centred: offX = (7200 - 5184) / 2 = 1008, offY = (4800 - 51.84) / 2 = 2374.08.
-    EXPECT_FLOAT_EQ(f.scaleLeft, -1008.0f);
-    EXPECT_FLOAT_EQ(f.scaleTop, -2375.0f); // Int rounds toward minus infinity
-    EXPECT_FALSE(f.failed);
-    // On the screen a numeric scale does not change the fit.
-    EXPECT_FLOAT_EQ(fit(east, " 200").scaleFactor, 51.84f);
-}
-
-TEST(Rescaling, PrintingBranch)
-{
-    const LegTable east{course(0.0f, 100)};
-    EXPECT_FLOAT_EQ(fit(east, "1000:1", true, Units::Feet).scaleFactor, 1.44f);  // 1440 / 1000
-    EXPECT_FLOAT_EQ(fit(east, " 200", true, Units::Meters).scaleFactor, 2.88f); // 576 / 200
-    EXPECT_FLOAT_EQ(fit(east, " 200", true, Units::Other).scaleFactor, 103.68f); // doubled
-    EXPECT_FLOAT_EQ(fit(east, "Standard", true).scaleFactor, 103.68f);
-    // Centred on twice the canvas: offX = (14400 - 10368) / 2.
+    const FitResult screen = fit(east, "Standard");
+    EXPECT_FLOAT_EQ(screen.scaleLeft, -1008.0f);
+    EXPECT_FLOAT_EQ(screen.scaleTop, -2375.0f); // Int rounds toward minus infinity
+    EXPECT_FALSE(screen.failed);
+    // Printed: centred on twice the canvas, offX = (14400 - 10368) / 2.
     EXPECT_FLOAT_EQ(fit(east, "Standard", true).scaleLeft, -2016.0f);
 }
 

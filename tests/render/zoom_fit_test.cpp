@@ -2,31 +2,18 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
+#include "test_legs.h"
 #include "zoom_fit.h"
 
 using namespace quilmar;
 
-namespace {
-
-Leg straight(float direction, double distance)
-{
-    Leg leg;
-    leg.direction = direction;
-    leg.cosine = std::cos(direction * 3.14159265 / 180.0);
-    leg.sine = std::sin(direction * 3.14159265 / 180.0);
-    leg.distance = distance;
-    return leg;
-}
-
-} // namespace
+using test::course;
 
 TEST(ZoomFit, FitsNinetyFivePercentAndCentres)
 {
     // 100 east, 50 south on 20000 x 20000: fx = 200, fy = 400 -> 200 x 0.95 = 190
     TraverseState state;
-    const LegTable legs{straight(0.0f, 100.0), straight(90.0f, 50.0)};
+    const LegTable legs{course(0.0f, 100.0), course(90.0f, 50.0)};
     const ZoomFit fit = zoomFit(legs, 20000.0f, 20000.0f, state);
     EXPECT_FALSE(fit.failed);
     EXPECT_FLOAT_EQ(fit.scaleFactor, 190.0f);
