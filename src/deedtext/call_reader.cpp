@@ -44,6 +44,8 @@ private:
     {
         return in(i) && m_t[i].kind == TokKind::Word ? std::string_view(m_t[i].word) : std::string_view();
     }
+    /// The word at @p i while it is still free to read; "" otherwise.
+    std::string_view activeWord(size_t i) const { return active(i) ? word(i) : std::string_view(); }
     bool isKind(size_t i, TokKind k) const { return in(i) && m_t[i].kind == k; }
     bool isPunct(size_t i) const
     {
@@ -826,9 +828,7 @@ void CallReader::readStraight(Call &call)
     std::optional<Found> found;
     std::string approximate;
     for (size_t i = m_begin; i < m_end; ++i) {
-        if (!active(i))
-            continue;
-        const std::string_view w = word(i);
+        const std::string_view w = activeWord(i);
         if (w.empty())
             continue;
         if (isApproximateDirection(w) && approximate.empty() && !isSideNoun(word(skipPunct(i + 1)))
@@ -956,9 +956,7 @@ void CallReader::readCurve(Call &call)
     double delta = -1;
     std::string concave;
     for (size_t i = m_begin; i < m_end; ++i) {
-        if (!active(i))
-            continue;
-        const std::string_view w = word(i);
+        const std::string_view w = activeWord(i);
         if (w.empty())
             continue;
         const bool eq = isKind(i + 1, TokKind::Equals) || isKind(i + 1, TokKind::Colon);

@@ -435,6 +435,15 @@ void joinNumberWords(std::vector<Token> &t)
 {
     // Compacted in place: the write position never passes the read position.
     TokenWriter out(t);
+    // The fraction @p f in words from t[i] up to t[end - 1] becomes one number token.
+    auto pushFraction = [&](size_t i, double f, size_t end) {
+        Token n = t[i];
+        n.kind = TokKind::Number;
+        n.value = f;
+        n.fraction = n.fromWords = true;
+        n.span.end = t[end - 1].span.end;
+        out.push_back(std::move(n));
+    };
     for (size_t i = 0; i < t.size();) {
         size_t fracNext = 0;
         if (!isNumberWord(t[i])) {
@@ -442,12 +451,7 @@ void joinNumberWords(std::vector<Token> &t)
             const double f = (t[i].kind == TokKind::Word && !t[i].isWord("a") && !t[i].isWord("an"))
                                  ? fractionWords(t, i, fracNext) : -1;
             if (f >= 0) {
-                Token n = t[i];
-                n.kind = TokKind::Number;
-                n.value = f;
-                n.fraction = n.fromWords = true;
-                n.span.end = t[fracNext - 1].span.end;
-                out.push_back(std::move(n));
+                pushFraction(i, f, fracNext);
                 i = fracNext;
                 continue;
             }
@@ -456,12 +460,7 @@ void joinNumberWords(std::vector<Token> &t)
             continue;
         }
         if (const double f = fractionWords(t, i, fracNext); f >= 0) {
-            Token n = t[i];
-            n.kind = TokKind::Number;
-            n.value = f;
-            n.fraction = n.fromWords = true;
-            n.span.end = t[fracNext - 1].span.end;
-            out.push_back(std::move(n));
+            pushFraction(i, f, fracNext);
             i = fracNext;
             continue;
         }
