@@ -5,6 +5,7 @@
 
 #include "leg_table.h"
 #include "traverse_state.h"
+#include "vb_math.h"
 
 namespace quilmar {
 
@@ -27,5 +28,18 @@ struct FitWalk {
 /// origin.
 /// @throws VbError Overflow for a step beyond single range, with @p walk as reached
 void walkForFit(const LegTable &legs, TraverseState &state, FitWalk &walk);
+
+/// After a fault: runs @p fit on the extents reached, when the walk reached
+/// any row, so the factor is that of the rows before the fault; a fault of the
+/// fit itself leaves what it had set.
+template <class Fit> void fitWhatWasReached(const FitWalk &walk, Fit &&fit)
+{
+    if (!walk.rowsDone)
+        return;
+    try {
+        fit();
+    } catch (const VbError &) {
+    }
+}
 
 } // namespace quilmar

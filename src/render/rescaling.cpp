@@ -79,12 +79,7 @@ FitResult rescaling(const LegTable &legs, const ScaleChoice &choice, float width
             fit.scaleTop = sng(std::floor(double(sf) * walk.minY - offY));
         }
     } catch (const VbError &) {
-        if (walk.rowsDone) {
-            try {
-                fitExtents();
-            } catch (const VbError &) {
-            }
-        }
+        fitWhatWasReached(walk, fitExtents);
         fit.failed = true;
         return fit;
     }

@@ -26,12 +26,7 @@ ZoomFit zoomFit(const LegTable &legs, float width, float height, TraverseState &
         walkForFit(legs, state, walk);
         fitExtents();
     } catch (const VbError &) {
-        if (walk.rowsDone) {
-            try {
-                fitExtents();
-            } catch (const VbError &) {
-            }
-        }
+        fitWhatWasReached(walk, fitExtents);
         fit.failed = true;
     }
     return fit;
