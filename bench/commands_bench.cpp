@@ -4,11 +4,8 @@
 
 #include <benchmark/benchmark.h>
 
-#include <filesystem>
-
 #include <QApplication>
 
-#include "plotter.h"
 #include "window_setup.h"
 
 namespace {
@@ -17,17 +14,13 @@ using namespace quilmar;
 
 void BM_CopyMapToClipboard(benchmark::State &state)
 {
-    bench::QuietDialogs dialogs;
-    const auto folder = std::filesystem::temp_directory_path() / "quilmar_bench_commands";
-    std::filesystem::create_directories(folder);
-    Plotter w(dialogs, startupOptionsIn(folder.string() + "/", "quilmar", true));
-    bench::fillBearingTable(w.engine().editTable());
+    bench::BenchWindow window("quilmar_bench_commands");
+    Plotter &w = *window.w;
     w.resize(1100, 700);
     w.show();
     QApplication::processEvents();
     for (auto _ : state)
         w.filemakebmp_Click();
-    std::filesystem::remove_all(folder);
 }
 BENCHMARK(BM_CopyMapToClipboard)->Unit(benchmark::kMillisecond);
 

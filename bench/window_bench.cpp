@@ -4,13 +4,10 @@
 
 #include <benchmark/benchmark.h>
 
-#include <filesystem>
-
 #include <QApplication>
 #include <QLineEdit>
 
 #include "entry_grid.h"
-#include "plotter.h"
 #include "window_setup.h"
 
 namespace {
@@ -19,11 +16,8 @@ using namespace quilmar;
 
 void BM_LeaveChangedDistance(benchmark::State &state)
 {
-    bench::QuietDialogs dialogs;
-    const auto folder = std::filesystem::temp_directory_path() / "quilmar_bench_window";
-    std::filesystem::create_directories(folder);
-    Plotter w(dialogs, startupOptionsIn(folder.string(), "quilmar", true));
-    bench::fillBearingTable(w.engine().editTable());
+    bench::BenchWindow window("quilmar_bench_window");
+    Plotter &w = *window.w;
     w.grid().rules().populatefields();
     w.grid().sync();
     w.show();
@@ -39,7 +33,6 @@ void BM_LeaveChangedDistance(benchmark::State &state)
         next->setFocus(); // stores, checks the row, redraws
         QApplication::processEvents(); // the canvas repaint
     }
-    std::filesystem::remove_all(folder);
 }
 BENCHMARK(BM_LeaveChangedDistance)->Unit(benchmark::kMicrosecond);
 

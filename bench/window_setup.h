@@ -1,13 +1,16 @@
 #pragma once
 // What the window's benchmarks share: dialogs that answer every question at
-// once, and the full table of 202 rows of quadrant bearings they time the
-// window on.
+// once, and a window in a folder of its own on the full table of 202 rows of
+// quadrant bearings they time the window on.
 
+#include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 
 #include "course_table.h"
 #include "dialogs.h"
+#include "plotter.h"
 
 namespace quilmar::bench {
 
@@ -38,5 +41,25 @@ inline void fillBearingTable(CourseTable &t)
     }
     t.gethighest();
 }
+
+/// The window (English measure) with its settings folder @p folderName under
+/// the temporary folder, on the bearing table; the folder goes with it.
+struct BenchWindow {
+    explicit BenchWindow(const char *folderName) : folder(std::filesystem::temp_directory_path() / folderName)
+    {
+        std::filesystem::create_directories(folder);
+        w = std::make_unique<Plotter>(dialogs, startupOptionsIn(folder.string(), "quilmar", true));
+        fillBearingTable(w->engine().editTable());
+    }
+    ~BenchWindow()
+    {
+        w.reset();
+        std::filesystem::remove_all(folder);
+    }
+
+    std::filesystem::path folder;
+    QuietDialogs dialogs;
+    std::unique_ptr<Plotter> w;
+};
 
 } // namespace quilmar::bench
