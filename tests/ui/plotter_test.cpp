@@ -6,6 +6,7 @@
 #include <csignal>
 
 #include <QComboBox>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -164,6 +165,12 @@ TEST_F(Window, CustomScaleAndUnits)
     EXPECT_TRUE(w->engine().mapComputed());
     click(child<QRadioButton>("metrix_1"));
     EXPECT_EQ(w->engine().metricFactor(), 2.5f);
+
+    // A typed scale stays as typed: the list completes nothing ("S" is not "Small").
+    scale->lineEdit()->selectAll();
+    QTest::keyClicks(scale->lineEdit(), "S");
+    EXPECT_EQ(scale->currentText(), "S");
+    EXPECT_EQ(w->engine().scaleText(), "S");
 }
 
 TEST_F(Window, CloseAsksOnlyAboutTheTopRow)
