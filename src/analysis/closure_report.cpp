@@ -53,6 +53,8 @@ ClosureReport analyseClosure(const CourseTable &table, const GapTextFn &gapText,
         r.closeRow = lot.closeRow;
         r.pobNorth = lot.pobNorth;
         r.pobEast = lot.pobEast;
+        r.startNorth = lot.startNorth;
+        r.startEast = lot.startEast;
         r.gap = makeGap(lot.gapNorth, lot.gapEast);
         r.perimeter = lot.perimeter;
         if (r.gap.distance != 0.0)

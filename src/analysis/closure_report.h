@@ -97,6 +97,9 @@ struct LotReport {
     int pobRow = -1;               ///< the "B" row in force (perhaps in an earlier lot), or -1
     int closeRow = -1;             ///< the "C" row, or -1
     double pobNorth = 0.0, pobEast = 0.0;
+    /// Where the figure's first call starts: the point of beginning when the
+    /// lot has its own "B" row (both adjustments start here too).
+    double startNorth = 0.0, startEast = 0.0;
     Gap gap;
     double perimeter = 0.0;          ///< lengths of the measured calls, arcs for curves
     std::optional<double> precision; ///< N of 1:N; empty when the figure closes exactly

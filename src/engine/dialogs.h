@@ -14,6 +14,8 @@
 
 namespace quilmar {
 
+class ClosureSession;
+
 enum class FileMode { Open, Save };
 
 /// The sheet a printout paints on: its surface in twips from the top-left of
@@ -51,6 +53,14 @@ public:
     /// Qt's print preview of @p printout; nothing is printed unless the user
     /// prints from the preview.
     virtual void preview(const std::string &jobName, const Printout &printout) = 0;
+
+    /// The closure report window over @p session: each lot's misclosure,
+    /// precision, adjustments and suggestions, with Apply and Undo, which go
+    /// through the session. Returns when the user closes it. The caller shows
+    /// ClosureSession::kNoLots instead when the session is empty. Does nothing
+    /// by default, so that dialogs without a window (the command line, the
+    /// benchmarks, the fuzz targets) need nothing for it.
+    virtual void closureReport(ClosureSession &session) { (void)session; }
 
     /// A message box with OK only.
     void message(const std::string &text, Icon icon) { ask(text, kTitle, Buttons::Ok, icon); }

@@ -23,6 +23,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "closure_session.h"
 #include "entry_grid.h"
 #include "map_canvas.h"
 #include "map_file.h"
@@ -273,6 +274,20 @@ void Plotter::mnuPeri_Click()
 {
     m_engine.mnuPeri_Click();
     showResults();
+}
+
+void Plotter::mnuClosureReport_Click()
+{
+    ClosureSession session(m_engine, [this] {
+        m_grid->rules().populatefields();
+        m_grid->sync();
+        draw();
+    });
+    if (session.empty()) {
+        m_dialogs.message(ClosureSession::kNoLots, Icon::Information);
+        return;
+    }
+    m_dialogs.closureReport(session);
 }
 
 // --- toolbar and edit commands ---------------------------------------------------

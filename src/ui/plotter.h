@@ -68,6 +68,10 @@ public:
     void mnuHectares_Click();
     void mnuGap_Click();
     void mnuPeri_Click();
+    /// Map > Closure Report...: the report window over the table; its Apply and
+    /// Undo refill the grid and redraw the map. A table without a lot to
+    /// analyse gets ClosureSession::kNoLots instead.
+    void mnuClosureReport_Click();
 
     // File: printing and the clipboard (plotter_commands.cpp)
     void mnuPrintOptions_Click();

@@ -156,6 +156,8 @@ void Plotter::buildMenus()
         action(map, "mnuHectares", "Calculate &Hectares", QKeySequence("Ctrl+H"), [this] { mnuHectares_Click(); });
     action(map, "mnuGap", "Calculate &Gap", QKeySequence("Ctrl+G"), [this] { mnuGap_Click(); });
     action(map, "mnuPeri", "Calculate Peri&meter", QKeySequence("Ctrl+M"), [this] { mnuPeri_Click(); });
+    // Beyond the classic menu: the closure report with its adjustments and suggestions.
+    action(map, "mnuClosureReport", "Closure Report...", QKeySequence("Ctrl+R"), [this] { mnuClosureReport_Click(); });
     separator(map, "sep_map1");
     action(map, "addScale", "Add  Customized &Scale", {}, [this] { addScale_Click(); });
     action(map, "mnuMagnify", "&Magnify", {}, [this] { mnuMagnify_Click(); });

@@ -11,6 +11,7 @@
 #include <QPrinter>
 #include <QStringList>
 
+#include "closure_report_window.h"
 #include "paged_output.h"
 #include "qt_painter_surface.h"
 #include "safe_file.h"
@@ -100,6 +101,12 @@ void QtDialogs::preview(const std::string &jobName, const Printout &printout)
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
                      [&printout](QPrinter *p) { paintOn(*p, printout, 1); });
     dialog.exec();
+}
+
+void QtDialogs::closureReport(ClosureSession &session)
+{
+    ClosureReportWindow window(session, m_parent);
+    window.exec();
 }
 
 Answer QtDialogs::ask(const std::string &text, const std::string &title, Buttons buttons, Icon icon)

@@ -23,6 +23,8 @@ public:
     std::optional<std::string> fileName(FileMode mode, const std::string &filter, const std::string &folder) override;
     bool print(const std::string &jobName, const Printout &printout) override;
     void preview(const std::string &jobName, const Printout &printout) override;
+    /// The closure report window, modal, until the user closes it.
+    void closureReport(ClosureSession &session) override;
 
 private:
     QWidget *m_parent;

@@ -8,10 +8,18 @@
 #include <string>
 #include <vector>
 
+#include "closure_session.h"
 #include "dialogs.h"
 #include "recording_surface.h"
 
 namespace quilmar {
+
+/// One step the scripted closure report takes: apply suggestion `suggestion`
+/// of lot `lot`, or undo.
+struct ClosureStep {
+    enum Kind { Apply, Undo } kind = Apply;
+    std::size_t lot = 0, suggestion = 0;
+};
 
 struct AskedBox {
     std::string text;
@@ -69,6 +77,19 @@ public:
         printJobs.push_back("preview " + jobName);
         paint(printout, 1);
     }
+    /// The steps the next closure report takes, in order; it then closes.
+    std::vector<ClosureStep> closureSteps;
+    int closureReports = 0;            ///< closure reports opened
+    std::vector<bool> closureResults;  ///< what each step returned
+    void closureReport(ClosureSession &session) override
+    {
+        ++closureReports;
+        for (const ClosureStep &step : closureSteps)
+            closureResults.push_back(step.kind == ClosureStep::Apply ? session.apply(step.lot, step.suggestion)
+                                                                     : session.undo());
+        closureSteps.clear();
+    }
+
     /// The texts of the boxes shown so far; clears the record.
     std::vector<std::string> texts()
     {
