@@ -54,6 +54,7 @@ void ClosureSession::analyse()
     // The gap text cuts the scratch table; the analysis reads the window's, which stays put.
     m_report = analyseClosure(
         m_engine.table(), [&scratch](int lastRow) { return gapTextThrough(scratch, lastRow); }, settings);
+    std::erase_if(m_report.lots, [](const LotReport &lot) { return lot.compass.calls.size() < 2; });
 }
 
 bool ClosureSession::apply(std::size_t lot, std::size_t suggestion)

@@ -31,6 +31,8 @@ public:
     ///                      Empty: the engine redraws the map itself (redraw()).
     explicit ClosureSession(Engine &engine, std::function<void()> tableChanged = {});
 
+    /// The lots of at least two measured calls: a single call is no figure,
+    /// and its "misclosure" would be the call itself.
     const analysis::ClosureReport &report() const { return m_report; }
     /// True when the report has no lot to show (empty table, fewer than two calls).
     bool empty() const { return m_report.lots.empty(); }

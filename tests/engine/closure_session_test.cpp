@@ -152,6 +152,8 @@ TEST_F(Session, NothingToAnalyse)
         test::makeTable({{"", "", "", "", "", "", "", "", "", "B"}}),
         test::makeTable({{"N", "", "", "", "", "", "", "", "", ""}}),
         test::makeTable({{"N", "12", "", "", "E", "0", "", "", "", ""}, {"S", "1", "", "", "W", "", "", "", "", ""}}),
+        test::makeTable({{"N", "12", "", "", "E", "100", "", "", "", ""}}),
+        test::makeTable({{"N", "12", "", "", "E", "100", "", "", "", "N"}, {"S", "1", "", "", "W", "50", "", "", "", ""}}),
     };
     for (size_t i = 0; i < tables.size(); ++i) {
         SCOPED_TRACE(i);
