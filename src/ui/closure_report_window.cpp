@@ -12,6 +12,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QTabWidget>
 #include <QTableWidget>
@@ -119,7 +120,7 @@ OutlinePlot::OutlinePlot(Outlines outlines, QWidget *parent) : QWidget(parent), 
 QSize OutlinePlot::sizeHint() const
 {
     const int line = fontMetrics().lineSpacing();
-    return {16 * line, 14 * line};
+    return {16 * line, 15 * line};
 }
 
 void OutlinePlot::paintEvent(QPaintEvent *)
@@ -140,7 +141,7 @@ void OutlinePlot::paintEvent(QPaintEvent *)
     };
     grow(o.north, o.east);
     grow(o.adjustedNorth, o.adjustedEast);
-    const int legend = fontMetrics().lineSpacing() + 4;
+    const int legend = 2 * fontMetrics().lineSpacing() + 4;
     const QRectF area = QRectF(rect()).adjusted(8, 8, -8, -8 - legend);
     const double span = std::max(maxE - minE, maxN - minN);
     const double scale = span > 0.0 ? std::min(area.width() / std::max(maxE - minE, 1e-9 * span),
@@ -165,7 +166,7 @@ void OutlinePlot::paintEvent(QPaintEvent *)
     p.drawEllipse(at(o.north[0], o.east[0]), 3.0, 3.0);
     p.setPen(Qt::black);
     p.drawText(QRectF(rect()).adjusted(4, 0, -4, -2), Qt::AlignBottom | Qt::AlignLeft,
-               "dashed: as written, solid: compass rule");
+               "dashed: as written\nsolid: compass rule");
 }
 
 // --- the window ------------------------------------------------------------------------
@@ -189,8 +190,13 @@ ClosureReportWindow::ClosureReportWindow(ClosureSession &session, QWidget *paren
     layout->addWidget(buttons);
     connect(m_undo, &QPushButton::clicked, this, [this] { undo(); });
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    // Room for a lot of a dozen calls and its suggestions without scrolling,
+    // within the screen.
     const int line = fontMetrics().lineSpacing();
-    resize(60 * line, 44 * line);
+    QSize size(64 * line, 60 * line);
+    if (const QScreen *s = parent ? parent->screen() : screen())
+        size = size.boundedTo(s->availableSize() * 9 / 10);
+    resize(size);
     refresh();
 }
 
@@ -253,9 +259,8 @@ QWidget *ClosureReportWindow::lotPage(int index)
         classes += QString("%1%2: %3").arg(classes.isEmpty() ? "" : ",  ").arg(qs(precisionText(c))).arg(
             better ? "better" : "worse");
     }
+    classes += "\n(for comparison only; not a finding of compliance with any standard)";
     form->addRow("Commonly cited ratios:", valueLabel(classes, "classes_" + n, page));
-    form->addRow("", valueLabel("For comparison only; not a finding of compliance with any standard.", "caveat_" + n,
-                                page));
     form->addRow("Plotter's gap:", valueLabel(qs(lot.programGap), "programGap_" + n, page));
     for (const Note &note : lot.notes)
         form->addRow("Note:", valueLabel(qs("row " + std::to_string(note.row + 1) + ": " + note.text), "note_" + n, page));

@@ -88,9 +88,11 @@ TEST_F(ClosureWindow, MenuEntryFollowsPerimeterWithAShortcutOfItsOwn)
     auto *map = w->findChild<QMenu *>("mnuView");
     const auto actions = map->actions();
     EXPECT_EQ(actions.indexOf(report), actions.indexOf(peri) + 1);
-    for (QAction *other : w->findChildren<QAction *>())
-        if (other != report && !other->shortcut().isEmpty())
+    for (QAction *other : w->findChildren<QAction *>()) {
+        if (other != report && !other->shortcut().isEmpty()) {
             EXPECT_NE(other->shortcut(), report->shortcut()) << other->objectName().toStdString();
+        }
+    }
 }
 
 TEST_F(ClosureWindow, AppliesReachGridAndMapAndUndoRestoresBoth)
