@@ -105,7 +105,8 @@ TEST_F(Session, NothingToAnalyse)
 
 TEST_F(Session, WrittenOutlineEndsAtTheGapAndTheAdjustedOneOnThePointOfBeginning)
 {
-    for (const auto &lot : ClosureSession(engine).report().lots) {
+    const ClosureSession session(engine);
+    for (const auto &lot : session.report().lots) {
         const Outlines o = compassOutlines(lot);
         ASSERT_EQ(o.north.size(), lot.compass.calls.size() + 1);
         EXPECT_NEAR(o.north.back(), lot.pobNorth + lot.gap.north, 1e-6);
