@@ -3,22 +3,12 @@
 
 #include "closure_report_window.h"
 
-#include <filesystem>
-
-#include <QAction>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTableWidget>
-#include <QTest>
-#include <gtest/gtest.h>
 
 #include "closure_tables.h"
-#include "entry_grid.h"
-#include "plotter.h"
-#include "scripted_dialogs.h"
+#include "window_fixture.h"
 
 using namespace quilmar;
 
@@ -26,24 +16,12 @@ namespace {
 
 std::string cellText(const CourseTable &t, int r, int c) { return t.at(r, c).text(); }
 
-class ClosureWindow : public ::testing::Test {
+class ClosureWindow : public test::WindowTest {
 protected:
-    std::filesystem::path dir = std::filesystem::temp_directory_path() / "quilmar_closure_ui";
-    ScriptedDialogs dialogs;
-    std::unique_ptr<Plotter> w;
-
     void SetUp() override
     {
-        std::filesystem::create_directories(dir);
-        w = std::make_unique<Plotter>(dialogs, startupOptionsIn(dir.string(), "quilmar", true));
-        w->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(w.get()));
+        WindowTest::SetUp();
         load(test::twoBlunders());
-    }
-    void TearDown() override
-    {
-        w.reset();
-        std::filesystem::remove_all(dir);
     }
     void load(const CourseTable &t)
     {
@@ -55,7 +33,7 @@ protected:
     {
         for (int r = 0; r < GridRules::kVisibleRows; ++r)
             for (int c = 1; c <= CourseTable::kColumns; ++c)
-                ASSERT_EQ(w->grid().field({r, c})->text().toStdString(), cellText(w->engine().table(), r, c));
+                ASSERT_EQ(field(r, c)->text().toStdString(), cell(r, c));
     }
 };
 
@@ -75,7 +53,7 @@ TEST_F(ClosureWindow, MenuEntryFollowsPerimeterWithAShortcutOfItsOwn)
 TEST_F(ClosureWindow, AppliesReachGridAndMapAndUndoPutsBothBack)
 {
     dialogs.closureSteps = {{ClosureStep::Apply, 0, 0}, {ClosureStep::Apply, 1, 0}};
-    w->findChild<QAction *>("mnuClosureReport")->trigger();
+    trigger("mnuClosureReport");
     ASSERT_EQ(dialogs.closureResults, (std::vector<bool>{true, true}));
     EXPECT_EQ(cellText(w->engine().table(), 3, ColNS), "S");
     EXPECT_EQ(cellText(w->engine().table(), 9, ColEW), "W");
