@@ -75,7 +75,7 @@ TEST_F(Commands, TheMenuTreeWithNamesCaptionsShortcutsAndHiddenEntries)
           "mnuPopup4|&New Lot|", "mnuPopUp5|Point of &Origin|"}},
         {"mnuView",
          {"mnuRedraw|&Re-draw Map|F8", "mnuAcres|Calculate &Acres|Ctrl+A", "mnuHectares|Calculate &Hectares|Ctrl+H (hidden)",
-          "mnuGap|Calculate &Gap|Ctrl+G", "mnuPeri|Calculate Peri&meter|Ctrl+M", "-",
+          "mnuGap|Calculate &Gap|Ctrl+G", "mnuPeri|Calculate Peri&meter|Ctrl+M", "mnuClosureReport|Closure Report...|Ctrl+R", "-",
           "addScale|Add  Customized &Scale|", "mnuMagnify|&Magnify|"}},
         {"helpmenu",
          {"helpsubmenu|Help...|", "mnuManual|Manual...|", "-", "demosample1|Demo Sample &1|",
