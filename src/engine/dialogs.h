@@ -5,9 +5,11 @@
 // queue and record what was asked (ScriptedDialogs). A dialog never reaches
 // into the engine; it only returns values.
 
+#include <array>
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "prompter.h"
 #include "surface.h"
@@ -21,6 +23,10 @@ enum class FileMode { Open, Save };
 /// The sheet a printout paints on: its surface in twips from the top-left of
 /// the printable area, the printable size, the copies the user asked for, and
 /// how to start the next sheet.
+/// One course row as the grid holds it: the ten cells' texts, column 1 (N/S
+/// code) at index 0 to column 10 (tag) at index 9.
+using PastedRow = std::array<std::string, 10>;
+
 struct PrintSheet {
     Surface &surface;
     float width = 0.0f;  ///< printable width, twips
@@ -61,6 +67,17 @@ public:
     /// by default, so that dialogs without a window (the command line, the
     /// benchmarks, the fuzz targets) need nothing for it.
     virtual void closureReport(ClosureSession &session) { (void)session; }
+
+    /// The deed-text paste dialog: @p text (UTF-8, normally the clipboard's
+    /// text) is shown for editing beside the course rows read from it.
+    /// @returns the rows to insert, in order, or nothing when cancelled.
+    /// This default cancels without showing anything, so stand-ins without a
+    /// window (command line, benchmarks, fuzzing) paste nothing.
+    virtual std::optional<std::vector<PastedRow>> pasteDeedText(const std::string &text)
+    {
+        (void)text;
+        return std::nullopt;
+    }
 
     /// A message box with OK only.
     void message(const std::string &text, Icon icon) { ask(text, kTitle, Buttons::Ok, icon); }

@@ -305,6 +305,7 @@ void Plotter::Toolbar_Click(int index)
         break;
     case 2:
         if (m_grid->rules().clearAll(out)) {
+            m_pastedUnsaved = false;
             m_headerbox->clear();
             m_engine.setAcresbox({});
             setAcres({});
@@ -436,10 +437,13 @@ void Plotter::saveit(int mode)
     // A failed write leaves any old file as it was; the command ends without a message.
     if (!writeMapFile(path, m_engine.mapFileBytes(), &error))
         qWarning("quilmar: %s not saved: %s", path.c_str(), error.c_str());
+    else
+        m_pastedUnsaved = false;
 }
 
 void Plotter::clearScreenSide()
 {
+    m_pastedUnsaved = false;
     m_grid->rules().clearFields();
     m_grid->sync();
     m_headerbox->clear();
@@ -502,7 +506,7 @@ void Plotter::fileopen_Click()
 bool Plotter::askToSave()
 {
     // Only the top row's N/S field counts as data, deliberately.
-    if (m_grid->rules().topRowEmpty())
+    if (m_grid->rules().topRowEmpty() && !m_pastedUnsaved)
         return true;
     switch (m_dialogs.question("Do you wish to save the data?", Buttons::YesNoCancel, Icon::Question)) {
     case Answer::Yes:

@@ -73,6 +73,10 @@ public:
     /// analyse gets ClosureSession::kNoLots instead.
     void mnuClosureReport_Click();
 
+    /// Edit > "Paste Deed Text...": the paste dialog over the clipboard's text,
+    /// then its rows into the course table at the current row (plotter_paste.cpp).
+    void mnuPasteDeed_Click();
+
     // File: printing and the clipboard (plotter_commands.cpp)
     void mnuPrintOptions_Click();
     void FilePrintmap_Click();
@@ -161,6 +165,9 @@ private:
     QAction *m_undo = nullptr, *m_cut = nullptr, *m_copy = nullptr, *m_paste = nullptr;
     QAction *m_acresAction = nullptr, *m_hectaresAction = nullptr;
     bool m_exiting = false;
+    /// Rows were pasted since the last save, open or clear: closing asks to
+    /// save even when the top row's N/S field is empty.
+    bool m_pastedUnsaved = false;
     QPointer<PrintOptionsDialog> m_printOptionsDialog;
     QPointer<ZoomForm> m_zoom;
     QPointer<QTextBrowser> m_help;

@@ -91,6 +91,10 @@ void Plotter::buildMenus()
     action(m_editMenu, "mnuDeleteEntry", "&Delete Active Entry", QKeySequence("Shift+Del"),
            [this] { Toolbar_Click(1); });
     action(m_editMenu, "mnuDeleteAll", "Delete &ALL Entries", {}, [this] { Toolbar_Click(2); });
+    // Beyond the classic menu: course rows read from a deed's text.
+    separator(m_editMenu, "sep_edit3");
+    action(m_editMenu, "mnuPasteDeed", "Paste D&eed Text...", QKeySequence("Ctrl+Shift+V"),
+           [this] { mnuPasteDeed_Click(); });
     connect(m_editMenu, &QMenu::aboutToShow, this, &Plotter::Editmenu_Click);
     // Shortcuts keep working between openings of the menu.
     connect(m_editMenu, &QMenu::aboutToHide, this, [this] {

@@ -13,6 +13,7 @@
 
 #include "closure_report_window.h"
 #include "paged_output.h"
+#include "paste_deed_dialog.h"
 #include "qt_painter_surface.h"
 #include "safe_file.h"
 
@@ -161,6 +162,15 @@ std::optional<std::string> QtDialogs::fileName(FileMode mode, const std::string 
     if (name.isEmpty())
         return std::nullopt;
     return name.toStdString();
+}
+
+std::optional<std::vector<PastedRow>> QtDialogs::pasteDeedText(const std::string &text)
+{
+    PasteDeedDialog dialog(q(text), m_parent);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    dialog.reread(); // an edit of the last moments counts
+    return dialog.rows();
 }
 
 } // namespace quilmar

@@ -25,6 +25,8 @@ public:
     void preview(const std::string &jobName, const Printout &printout) override;
     /// The closure report window, modal, until the user closes it.
     void closureReport(ClosureSession &session) override;
+    /// Shows PasteDeedDialog over the window.
+    std::optional<std::vector<PastedRow>> pasteDeedText(const std::string &text) override;
 
 private:
     QWidget *m_parent;

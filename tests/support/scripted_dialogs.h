@@ -39,6 +39,9 @@ public:
     std::deque<bool> printAnswers;
     int copies = 1;                   ///< the copies the print dialog "chooses"
     std::vector<std::string> printJobs; ///< print and preview jobs, "print NAME" / "preview NAME"
+    /// Answers of the paste dialog: nothing cancels (also when empty).
+    std::deque<std::optional<std::vector<PastedRow>>> pastes;
+    std::vector<std::string> pasteTexts; ///< the texts the paste dialog was given
     RecordingSurface printed;         ///< what the last printout painted
     int printedPages = 0;             ///< sheets of the last printout (1 + its "newPage" calls)
 
@@ -90,6 +93,15 @@ public:
         closureSteps.clear();
     }
 
+    std::optional<std::vector<PastedRow>> pasteDeedText(const std::string &text) override
+    {
+        pasteTexts.push_back(text);
+        if (pastes.empty())
+            return std::nullopt;
+        auto v = pastes.front();
+        pastes.pop_front();
+        return v;
+    }
     /// The texts of the boxes shown so far; clears the record.
     std::vector<std::string> texts()
     {

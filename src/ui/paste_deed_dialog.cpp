@@ -1,0 +1,232 @@
+#include "paste_deed_dialog.h"
+
+#include <algorithm>
+
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSplitter>
+#include <QTableWidget>
+#include <QToolTip>
+#include <QVBoxLayout>
+
+#include "entry_grid.h" // kHeaderCaptions
+#include "utf16_offset.h"
+
+namespace quilmar {
+
+namespace {
+
+const QColor kReadColour(0xC8, 0xF0, 0xC8);    // a call that gave its row
+const QColor kWarningColour(0xFF, 0xE0, 0xA0); // a row written as the deed says, worth a look
+const QColor kFlagColour(0xFF, 0xB8, 0xB8);    // a call that gave no row: enter it by hand
+
+bool overlaps(deedtext::Span a, deedtext::Span b) { return a.begin < b.end && b.begin < a.end; }
+
+} // namespace
+
+PasteDeedDialog::PasteDeedDialog(const QString &text, QWidget *parent) : QDialog(parent)
+{
+    setObjectName("PasteDeedDialog");
+    setWindowTitle("Paste Deed Text");
+
+    m_text = new QPlainTextEdit(this);
+    m_text->setObjectName("DeedText");
+    m_text->setAccessibleName("Deed text");
+    // One line break, so that the widget's positions and the text read agree.
+    QString plain = text;
+    plain.replace("\r\n", "\n").replace('\r', '\n');
+    m_text->setPlainText(plain);
+    m_text->viewport()->installEventFilter(this);
+
+    m_rows = new QTableWidget(0, CourseTable::kColumns, this);
+    m_rows->setObjectName("DeedRows");
+    m_rows->setAccessibleName("Course rows");
+    QStringList headers;
+    for (const char *caption : kHeaderCaptions)
+        headers << caption;
+    m_rows->setHorizontalHeaderLabels(headers);
+    m_rows->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_rows->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_rows->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_rows->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    connect(m_rows, &QTableWidget::cellClicked, this, [this](int row, int) { selectCall(row); });
+    connect(m_rows, &QTableWidget::currentCellChanged, this, [this](int row, int) { selectCall(row); });
+
+    auto *split = new QSplitter(Qt::Horizontal, this);
+    split->addWidget(m_text);
+    split->addWidget(m_rows);
+    split->setStretchFactor(0, 1);
+    split->setStretchFactor(1, 1);
+
+    m_summary = new QLabel(this);
+    m_summary->setObjectName("DeedSummary");
+    m_summary->setWordWrap(true);
+
+    auto *buttons = new QDialogButtonBox(this);
+    m_insert = buttons->addButton("&Insert", QDialogButtonBox::AcceptRole);
+    m_insert->setObjectName("Insert");
+    buttons->addButton(QDialogButtonBox::Cancel)->setObjectName("Cancel");
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(split, 1);
+    layout->addWidget(m_summary);
+    layout->addWidget(buttons);
+
+    m_timer.setSingleShot(true);
+    m_timer.setInterval(kDelayMs);
+    connect(&m_timer, &QTimer::timeout, this, &PasteDeedDialog::reread);
+    connect(m_text, &QPlainTextEdit::textChanged, &m_timer, qOverload<>(&QTimer::start));
+
+    const QFontMetrics fm(font());
+    resize(fm.averageCharWidth() * 170, fm.lineSpacing() * 32);
+    reread();
+}
+
+std::vector<PastedRow> PasteDeedDialog::rows() const
+{
+    std::vector<PastedRow> out;
+    out.reserve(m_import.rows.size());
+    for (const deedtext::DeedRow &r : m_import.rows) {
+        PastedRow row;
+        std::copy(r.cells.begin(), r.cells.end(), row.begin());
+        out.push_back(row);
+    }
+    return out;
+}
+
+void PasteDeedDialog::reread()
+{
+    m_timer.stop();
+    const std::string utf8 = m_text->toPlainText().toStdString();
+    m_import = deedtext::parseDeedText(utf8);
+    auto units = [&](std::size_t byte) { return int(utf16Offset(utf8, byte)); };
+
+    // The rows and the flagged calls in text order; a warning goes on the rows
+    // of its call, or on a line of its own when its call gave none.
+    m_entries.clear();
+    for (std::size_t i = 0; i < m_import.rows.size(); ++i) {
+        const deedtext::Span s = m_import.rows[i].span;
+        Entry e{int(i), units(s.begin), units(s.end), {}, false};
+        for (const deedtext::DeedFlag &f : m_import.flags)
+            if (f.severity == deedtext::Severity::Warning && overlaps(f.span, s))
+                e.reason += (e.reason.isEmpty() ? "" : "\n") + QString::fromStdString(f.reason);
+        m_entries.push_back(e);
+    }
+    for (const deedtext::DeedFlag &f : m_import.flags) {
+        const bool onRow = f.severity == deedtext::Severity::Warning &&
+                           std::any_of(m_import.rows.begin(), m_import.rows.end(),
+                                       [&](const deedtext::DeedRow &r) { return overlaps(f.span, r.span); });
+        if (!onRow)
+            m_entries.push_back({-1, units(f.span.begin), units(f.span.end), QString::fromStdString(f.reason),
+                                 f.severity == deedtext::Severity::Flag});
+    }
+    std::stable_sort(m_entries.begin(), m_entries.end(),
+                     [](const Entry &a, const Entry &b) { return a.begin < b.begin; });
+    fillTable();
+    markText();
+
+    int flagged = 0;
+    for (const Entry &e : m_entries)
+        flagged += e.flag;
+    QString summary = QString("%1 course row(s) read").arg(m_import.rows.size());
+    if (flagged)
+        summary += QString("; %1 call(s) in red could not be read: enter them by hand after inserting").arg(flagged);
+    summary += ".";
+    if (m_import.metric)
+        summary += " The distances are in metres: choose \"Meters\" for this map.";
+    m_summary->setText(summary);
+    m_insert->setEnabled(!m_import.rows.empty());
+}
+
+void PasteDeedDialog::fillTable()
+{
+    const QSignalBlocker block(m_rows);
+    m_rows->clearSpans();
+    m_rows->setRowCount(int(m_entries.size()));
+    QStringList numbers;
+    for (int line = 0; line < int(m_entries.size()); ++line) {
+        const Entry &e = m_entries[std::size_t(line)];
+        const QColor colour = e.flag ? kFlagColour : (e.reason.isEmpty() ? kReadColour : kWarningColour);
+        for (int c = 0; c < CourseTable::kColumns; ++c) {
+            QString cell;
+            if (e.row >= 0)
+                cell = QString::fromStdString(m_import.rows[std::size_t(e.row)].cells[std::size_t(c)]);
+            else if (c == 0)
+                cell = (e.flag ? "Not read: " : "Check: ") + e.reason;
+            auto *item = new QTableWidgetItem(cell);
+            item->setBackground(colour);
+            item->setToolTip(e.reason);
+            m_rows->setItem(line, c, item);
+        }
+        if (e.row < 0)
+            m_rows->setSpan(line, 0, 1, CourseTable::kColumns);
+        numbers << (e.row >= 0 ? QString::number(e.row + 1) : QString("!"));
+    }
+    m_rows->setVerticalHeaderLabels(numbers);
+}
+
+void PasteDeedDialog::markText()
+{
+    QList<QTextEdit::ExtraSelection> marks;
+    // Rows first: a flag painted later shows over a row that shares its text.
+    for (bool flags : {false, true}) {
+        for (const Entry &e : m_entries) {
+            if (e.flag != flags)
+                continue;
+            QTextEdit::ExtraSelection mark;
+            mark.cursor = QTextCursor(m_text->document());
+            mark.cursor.setPosition(e.begin);
+            mark.cursor.setPosition(e.end, QTextCursor::KeepAnchor);
+            mark.format.setBackground(e.flag ? kFlagColour : (e.reason.isEmpty() ? kReadColour : kWarningColour));
+            marks.push_back(mark);
+        }
+    }
+    m_text->setExtraSelections(marks);
+}
+
+void PasteDeedDialog::selectCall(int line)
+{
+    if (line < 0 || line >= int(m_entries.size()))
+        return;
+    const Entry &e = m_entries[std::size_t(line)];
+    const int last = m_text->document()->characterCount() - 1;
+    // Anchored at the call's end with the cursor at its start, so that the
+    // start of a long call is what scrolls into view.
+    QTextCursor cursor(m_text->document());
+    cursor.setPosition(std::clamp(e.end, 0, last));
+    cursor.setPosition(std::clamp(e.begin, 0, last), QTextCursor::KeepAnchor);
+    m_text->setTextCursor(cursor);
+    m_text->ensureCursorVisible();
+}
+
+QString PasteDeedDialog::reasonAt(int position) const
+{
+    // A flagged call's reason before a warning on a row around it.
+    for (bool flags : {true, false})
+        for (const Entry &e : m_entries)
+            if (e.flag == flags && !e.reason.isEmpty() && position >= e.begin && position < e.end)
+                return e.reason;
+    return {};
+}
+
+bool PasteDeedDialog::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_text->viewport() && event->type() == QEvent::ToolTip) {
+        auto *help = static_cast<QHelpEvent *>(event);
+        const QString reason = reasonAt(m_text->cursorForPosition(help->pos()).position());
+        if (reason.isEmpty())
+            QToolTip::hideText();
+        else
+            QToolTip::showText(help->globalPos(), reason, m_text->viewport());
+        return true;
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+} // namespace quilmar

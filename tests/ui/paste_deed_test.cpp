@@ -1,0 +1,243 @@
+// The paste dialog of the deed-text import and Edit > "Paste Deed Text...":
+// byte offsets turned into Qt's positions, the rows and flags the dialog
+// shows, selecting a row's call, Insert and Cancel, and the rows in the grid.
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include "entry_grid.h"
+#include "map_canvas.h"
+#include "paste_deed_dialog.h"
+#include "plotter.h"
+#include "qt_dialogs.h"
+#include "scripted_dialogs.h"
+#include "utf16_offset.h"
+
+using namespace quilmar;
+
+namespace {
+
+// Curly quotes, a prime, a half and degree signs before and inside the calls.
+const QString kDeed = QString::fromUtf8("Beginning at a “stone” 3′ high; thence N 30½° W 100 feet; "
+                                        "thence S 48°72′ E 150.00 feet; thence S 60° E 50 feet to the beginning.");
+
+TEST(Utf16Offset, CountsUnitsNotBytes)
+{
+    const struct {
+        const char *text;
+        std::size_t byte;
+        std::size_t units;
+    } cases[] = {
+        {"N 30 W", 4, 4},
+        {"30½° W", 6, 4},          // ½ and ° are two bytes each
+        {"“a” b", 8, 4},           // curly quotes are three bytes
+        {"3′ 4″ x", 9, 5},         // primes are three bytes
+        {"\xF0\x9D\x84\x9E x", 5, 3}, // beyond the BMP: four bytes, two units
+        {"ab", 99, 2},             // past the end: the whole text
+        {"°x", 1, 1},              // inside a character: that character counts
+        {"\x80\xFFx", 3, 3},       // stray bytes: one unit each
+        {"\xE2\x82", 2, 2},        // a cut sequence
+        {"", 0, 0},
+    };
+    for (const auto &c : cases)
+        EXPECT_EQ(utf16Offset(c.text, c.byte), c.units) << c.text;
+}
+
+TEST(PasteDeedDialog, RowsFlagsAndSelection)
+{
+    PasteDeedDialog d(kDeed);
+    d.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&d));
+    QTableWidget *t = d.rowTable();
+    // N 30½ W; the flagged call (minutes over 59) on a line of its own; S 60 E; the C row.
+    ASSERT_EQ(t->rowCount(), 4);
+    const char *expected[][10] = {
+        {"N", "30", "30", "0", "W", "100", "", "", "", ""},
+        {"Not read: minutes over 59", "", "", "", "", "", "", "", "", ""},
+        {"S", "60", "0", "0", "E", "50", "", "", "", ""},
+        {"", "", "", "", "", "", "", "", "", "C"},
+    };
+    for (int r = 0; r < 4; ++r)
+        for (int c = 0; c < 10; ++c)
+            EXPECT_EQ(t->item(r, c)->text().toStdString(), expected[r][c]) << r << "," << c;
+    EXPECT_EQ(t->item(1, 3)->toolTip(), "minutes over 59");
+    EXPECT_TRUE(t->item(0, 0)->toolTip().isEmpty());
+    EXPECT_EQ(d.rows().size(), 3u); // the flag is not inserted
+
+    // The flagged call starts after 58 characters (94 bytes), ends 30 later.
+    const struct {
+        int line;
+        const char *selected;
+        int start;
+    } picks[] = {{0, "thence N 30½° W 100 feet;", 32},
+                 {1, "thence S 48°72′ E 150.00 feet;", 58},
+                 {2, "thence S 60° E 50 feet to the beginning.", 89}};
+    for (const auto &p : picks) {
+        QTest::mouseClick(t->viewport(), Qt::LeftButton, {}, t->visualItemRect(t->item(p.line, 5)).center());
+        const QTextCursor cursor = d.textEdit()->textCursor();
+        EXPECT_EQ(cursor.selectedText(), QString::fromUtf8(p.selected)) << p.line;
+        EXPECT_EQ(cursor.selectionStart(), p.start) << p.line;
+    }
+    EXPECT_EQ(d.reasonAt(60), "minutes over 59");
+    EXPECT_TRUE(d.reasonAt(40).isEmpty());
+}
+
+TEST(PasteDeedDialog, RereadsShortlyAfterTyping)
+{
+    PasteDeedDialog d("thence N 10 E 100 feet;");
+    ASSERT_EQ(d.rowTable()->rowCount(), 1);
+    d.textEdit()->moveCursor(QTextCursor::End);
+    QTest::keyClicks(d.textEdit(), " thence S 5 W 20 feet;");
+    EXPECT_EQ(d.rowTable()->rowCount(), 1); // not yet: typing stays smooth
+    EXPECT_TRUE(QTest::qWaitFor([&] { return d.rowTable()->rowCount() == 2; }, 2000));
+    d.textEdit()->setPlainText("no calls here");
+    d.reread();
+    EXPECT_EQ(d.rowTable()->rowCount(), 0);
+    EXPECT_FALSE(d.insertButton()->isEnabled());
+}
+
+TEST(PasteDeedDialog, InsertReturnsRowsCancelReturnsNothing)
+{
+    for (const char *button : {"Insert", "Cancel"}) {
+        QtDialogs dialogs;
+        QTimer::singleShot(0, [button] {
+            auto *d = qobject_cast<PasteDeedDialog *>(QApplication::activeModalWidget());
+            ASSERT_NE(d, nullptr);
+            d->findChild<QPushButton *>(button)->click();
+        });
+        const auto rows = dialogs.pasteDeedText(kDeed.toStdString());
+        if (std::string(button) == "Cancel") {
+            EXPECT_FALSE(rows.has_value());
+        } else {
+            ASSERT_TRUE(rows.has_value());
+            ASSERT_EQ(rows->size(), 3u);
+            EXPECT_EQ((*rows)[0][2], "30");
+            EXPECT_EQ((*rows)[2][9], "C");
+        }
+    }
+}
+
+class PasteCommand : public ::testing::Test {
+protected:
+    ScriptedDialogs dialogs;
+    std::unique_ptr<Plotter> w;
+    void SetUp() override
+    {
+        const std::string dir = ::testing::TempDir();
+        w = std::make_unique<Plotter>(dialogs, startupOptionsIn(dir, "quilmar_paste", true));
+        w->resize(1100, 700);
+        w->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(w.get()));
+    }
+    void paste(std::vector<PastedRow> rows)
+    {
+        dialogs.pastes.push_back(std::move(rows));
+        w->findChild<QAction *>("mnuPasteDeed")->trigger();
+    }
+    std::string tableText(int row, int column) { return w->engine().table().at(row, column).text(); }
+    std::string fieldText(int row, int column) { return w->grid().field({row, column})->text().toStdString(); }
+};
+
+const std::vector<PastedRow> kSquare = {
+    {"N", "0", "0", "0", "E", "100", "", "", "", ""}, {"E", "", "", "", "", "100", "", "", "", ""},
+    {"S", "0", "0", "0", "E", "100", "", "", "", ""}, {"W", "", "", "", "", "100", "", "", "", ""},
+    {"", "", "", "", "", "", "", "", "", "C"}};
+
+TEST_F(PasteCommand, MenuEntryAfterDeleteAll)
+{
+    auto *menu = w->findChild<QMenu *>("Editmenu");
+    const QList<QAction *> entries = menu->actions();
+    const auto at = entries.indexOf(w->findChild<QAction *>("mnuDeleteAll"));
+    ASSERT_GE(at, 0);
+    ASSERT_EQ(entries.size(), at + 3);
+    EXPECT_TRUE(entries[at + 1]->isSeparator());
+    EXPECT_EQ(entries[at + 2]->objectName(), "mnuPasteDeed");
+    EXPECT_EQ(entries[at + 2]->text(), "Paste D&eed Text...");
+    EXPECT_EQ(entries[at + 2]->shortcut(), QKeySequence("Ctrl+Shift+V"));
+}
+
+TEST_F(PasteCommand, DialogGetsTheClipboardAndCancelChangesNothing)
+{
+    QApplication::clipboard()->setText(kDeed);
+    w->findChild<QAction *>("mnuPasteDeed")->trigger();
+    ASSERT_EQ(dialogs.pasteTexts.size(), 1u);
+    EXPECT_EQ(dialogs.pasteTexts[0], kDeed.toStdString());
+    EXPECT_TRUE(tableText(0, ColNS).empty());
+    EXPECT_FALSE(w->engine().mapComputed());
+    EXPECT_TRUE(dialogs.asked.empty());
+}
+
+TEST_F(PasteCommand, IntoTheGridAtTheFocusedRowWithEachAnswer)
+{
+    struct {
+        std::optional<Answer> answer; // none: row 2 is empty, nothing asked
+        const char *row2NS;           // table row 2 afterwards
+        const char *row7NS;           // where the old row 2 went on No
+        bool drawn;
+    } cases[] = {
+        {{}, "N", "", true},
+        {Answer::Yes, "N", "", true},
+        {Answer::No, "N", "S", true},
+        {Answer::Cancel, "S", "", false},
+    };
+    for (const auto &c : cases) {
+        SetUp();
+        if (c.answer) {
+            w->engine().editTable().at(2, ColNS) = Cell("S");
+            w->engine().editTable().at(2, ColDistance) = Cell("5");
+            dialogs.answers.push_back(*c.answer);
+        }
+        w->grid().rules().populatefields();
+        w->grid().sync();
+        w->grid().field({2, ColDeg})->setFocus();
+        QApplication::processEvents();
+        paste(kSquare);
+        EXPECT_EQ(tableText(2, ColNS), c.row2NS);
+        EXPECT_EQ(tableText(7, ColNS), c.row7NS);
+        EXPECT_EQ(w->engine().mapComputed(), c.drawn);
+        EXPECT_EQ(!w->findChild<MapCanvas *>()->isBlank(), c.drawn);
+        // The grid shows the table, row for row.
+        for (int r = 0; r < GridRules::kVisibleRows; ++r)
+            for (int col = ColNS; col <= ColTag; ++col)
+                EXPECT_EQ(fieldText(r, col), tableText(r, col)) << r << "," << col;
+        if (c.drawn)
+            EXPECT_EQ(tableText(6, ColTag), "C");
+        dialogs.answers.clear();
+    }
+}
+
+TEST_F(PasteCommand, TooManyRowsGetAMessageAndNothingChanges)
+{
+    w->grid().setScroll(GridRules::kMaxScroll); // top visible row 191, no field focused
+    paste(std::vector<PastedRow>(12, kSquare[0]));
+    const auto shown = dialogs.texts();
+    ASSERT_EQ(shown.size(), 1u);
+    EXPECT_NE(shown[0].find("only 11 fit from row 192"), std::string::npos) << shown[0];
+    EXPECT_TRUE(tableText(191, ColNS).empty());
+}
+
+TEST_F(PasteCommand, PastedRowsBelowTheTopRowStillAskToSave)
+{
+    w->grid().setScroll(30);
+    paste(kSquare);
+    ASSERT_EQ(tableText(30, ColNS), "N");
+    w->grid().setScroll(0); // the top row's N/S field is empty
+    dialogs.answers.push_back(Answer::Cancel);
+    w->close();
+    EXPECT_TRUE(w->isVisible());
+    ASSERT_FALSE(dialogs.asked.empty());
+    EXPECT_EQ(dialogs.asked.back().text, "Do you wish to save the data?");
+    dialogs.answers.push_back(Answer::No);
+    w->close();
+}
+
+} // namespace
