@@ -26,6 +26,11 @@ const QColor kFlagColour(0xFF, 0xB8, 0xB8);    // a call that gave no row: enter
 
 bool overlaps(deedtext::Span a, deedtext::Span b) { return a.begin < b.end && b.begin < a.end; }
 
+QString count(std::size_t n, const char *one, const char *many)
+{
+    return QString("%1 %2").arg(n).arg(n == 1 ? one : many);
+}
+
 } // namespace
 
 PasteDeedDialog::PasteDeedDialog(const QString &text, QWidget *parent) : QDialog(parent)
@@ -52,7 +57,10 @@ PasteDeedDialog::PasteDeedDialog(const QString &text, QWidget *parent) : QDialog
     m_rows->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_rows->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_rows->setSelectionMode(QAbstractItemView::SingleSelection);
+    // Codes and angles take what they need; the lengths share the rest.
     m_rows->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    for (int c : {ColDistance, ColChord, ColRadius})
+        m_rows->horizontalHeader()->setSectionResizeMode(c - 1, QHeaderView::Stretch);
     connect(m_rows, &QTableWidget::cellClicked, this, [this](int row, int) { selectCall(row); });
     connect(m_rows, &QTableWidget::currentCellChanged, this, [this](int row, int) { selectCall(row); });
 
@@ -84,7 +92,7 @@ PasteDeedDialog::PasteDeedDialog(const QString &text, QWidget *parent) : QDialog
     connect(m_text, &QPlainTextEdit::textChanged, &m_timer, qOverload<>(&QTimer::start));
 
     const QFontMetrics fm(font());
-    resize(fm.averageCharWidth() * 170, fm.lineSpacing() * 32);
+    resize(fm.averageCharWidth() * 170, fm.lineSpacing() * 36);
     reread();
 }
 
@@ -131,12 +139,18 @@ void PasteDeedDialog::reread()
     fillTable();
     markText();
 
-    int flagged = 0;
-    for (const Entry &e : m_entries)
+    int flagged = 0, warned = 0;
+    for (const Entry &e : m_entries) {
         flagged += e.flag;
-    QString summary = QString("%1 course row(s) read").arg(m_import.rows.size());
+        warned += !e.flag && !e.reason.isEmpty();
+    }
+    QString summary = count(m_import.rows.size(), "course row", "course rows") + " read";
     if (flagged)
-        summary += QString("; %1 call(s) in red could not be read: enter them by hand after inserting").arg(flagged);
+        summary += "; " + count(std::size_t(flagged), "call", "calls") + " in red could not be read: enter " +
+                   (flagged == 1 ? "it" : "them") + " by hand after inserting";
+    if (warned)
+        summary += "; " + count(std::size_t(warned), "line", "lines") + " in amber " + (warned == 1 ? "is" : "are") +
+                   " read as the deed says but deserve" + (warned == 1 ? "s" : "") + " a look";
     summary += ".";
     if (m_import.metric)
         summary += " The distances are in metres: choose \"Meters\" for this map.";

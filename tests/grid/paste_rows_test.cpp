@@ -13,49 +13,43 @@ using namespace quilmar;
 
 namespace {
 
-// Existing entries hold "E<row>" as distance; pasted rows "P<i>" and a tag.
+// Entries already there hold "E<row>" as distance; pasted rows "N" and "P<i>".
 std::vector<PastedRow> pasted(int n)
 {
-    std::vector<PastedRow> rows(std::size_t(n), PastedRow{});
-    for (int i = 0; i < n; ++i) {
-        rows[std::size_t(i)][0] = "N";
-        rows[std::size_t(i)][ColDistance - 1] = "P" + std::to_string(i);
-    }
+    std::vector<PastedRow> rows(static_cast<std::size_t>(n));
+    for (int i = 0; i < n; ++i)
+        rows[std::size_t(i)] = {"N", "", "", "", "", "P" + std::to_string(i)};
     return rows;
 }
 
-std::string distance(const CourseTable &t, int row) { return t.at(row, ColDistance).text(); }
+const std::string kChoice = " Yes replaces them; No inserts the pasted rows before them; Cancel pastes nothing.";
+const std::string kAsk24 = "Rows 3 to 4 already hold entries." + kChoice;
 
 struct Case {
     const char *name;
-    std::vector<int> existing; ///< table rows holding an entry
-    int at;
-    int count;
-    std::optional<Answer> answer; ///< the answer to the question, when one is expected
-    std::string box;              ///< the question or message shown, "" for none
+    std::vector<int> existing;
+    int at, count;
+    std::optional<Answer> answer; ///< when a question is expected
+    std::string box;              ///< the last box shown, "" for none
     bool pasted;
     std::vector<std::pair<int, const char *>> after; ///< distance cells afterwards
+    int highest = 10;
 };
-
-const std::string kChoice = "Yes replaces them; No inserts the pasted rows before them; Cancel pastes nothing.";
 
 TEST(PasteRows, IntoTheTable)
 {
-    const std::string ask24 = "Rows 3 to 4 already hold entries. " + kChoice;
     const Case cases[] = {
         {"empty table", {}, 0, 3, {}, "", true, {{0, "P0"}, {2, "P2"}, {3, ""}}},
+        {"many rows raise highest", {}, 0, 30, {}, "", true, {{29, "P29"}}, 30},
         {"below the entries: nothing asked", {0, 1}, 2, 2, {}, "", true, {{1, "E1"}, {2, "P0"}, {3, "P1"}}},
-        {"Yes replaces", {0, 1, 2, 3, 4}, 2, 2, Answer::Yes, ask24, true,
-         {{1, "E1"}, {2, "P0"}, {3, "P1"}, {4, "E4"}, {5, ""}}},
-        {"No inserts before", {0, 1, 2, 3, 4}, 2, 2, Answer::No, ask24, true,
+        {"Yes replaces", {0, 1, 2, 3, 4}, 2, 2, Answer::Yes, kAsk24, true, {{2, "P0"}, {3, "P1"}, {4, "E4"}, {5, ""}}},
+        {"No inserts before", {0, 1, 2, 3, 4}, 2, 2, Answer::No, kAsk24, true,
          {{1, "E1"}, {2, "P0"}, {3, "P1"}, {4, "E2"}, {6, "E4"}, {7, ""}}},
-        {"Cancel pastes nothing", {0, 1, 2, 3, 4}, 2, 2, Answer::Cancel, ask24, false,
-         {{2, "E2"}, {3, "E3"}, {4, "E4"}}},
-        {"one row in the way", {5}, 4, 3, Answer::Yes, "Row 6 already holds an entry. " + kChoice, true,
-         {{4, "P0"}, {5, "P1"}, {6, "P2"}}},
-        {"gap between entries counts from first to last", {3, 6, 9}, 2, 6, Answer::No,
-         "Rows 4 to 7 already hold entries. " + kChoice, true, {{7, "P5"}, {9, "E3"}, {12, "E6"}, {15, "E9"}}},
-        {"fits to the last row exactly", {}, 199, 3, {}, "", true, {{199, "P0"}, {201, "P2"}}},
+        {"Cancel pastes nothing", {0, 1, 2, 3, 4}, 2, 2, Answer::Cancel, kAsk24, false, {{2, "E2"}, {3, "E3"}}},
+        {"one row in the way", {5}, 4, 3, Answer::Yes, "Row 6 already holds an entry." + kChoice, true, {{5, "P1"}}},
+        {"No moves every later entry", {3, 6, 40}, 2, 6, Answer::No, "Rows 4 to 7 already hold entries." + kChoice,
+         true, {{7, "P5"}, {9, "E3"}, {12, "E6"}, {46, "E40"}}, 47},
+        {"fits to the last row exactly", {}, 199, 3, {}, "", true, {{199, "P0"}, {201, "P2"}}, 202},
         {"one row too many", {}, 200, 3, {},
          "The pasted text gives 3 rows, but the table holds 202 rows and only 2 fit from row 201 on. Nothing was pasted.",
          false, {{200, ""}, {201, ""}}},
@@ -75,51 +69,18 @@ TEST(PasteRows, IntoTheTable)
             dialogs.answers.push_back(*c.answer);
         const PasteOutcome out = pasteRows(table, dialogs, c.at, pasted(c.count));
         EXPECT_EQ(out.pasted, c.pasted);
+        if (c.answer) {
+            ASSERT_FALSE(dialogs.asked.empty());
+            EXPECT_EQ(dialogs.asked[0].buttons, Buttons::YesNoCancel);
+            EXPECT_EQ(dialogs.asked[0].icon, Icon::Question);
+        }
         const std::vector<std::string> shown = dialogs.texts();
-        if (c.box.empty()) {
-            EXPECT_TRUE(shown.empty()) << shown.front();
-        } else {
-            // The question, then a message when No cannot make room.
-            ASSERT_FALSE(shown.empty());
-            EXPECT_EQ(shown.back(), c.box);
-        }
+        EXPECT_EQ(shown.empty() ? "" : shown.back(), c.box);
         for (auto [row, text] : c.after)
-            EXPECT_EQ(distance(table, row), text) << "row " << row;
-        if (out.pasted) {
-            EXPECT_EQ(out.firstRow, c.at);
-            EXPECT_EQ(out.count, c.count);
+            EXPECT_EQ(table.at(row, ColDistance).text(), text) << "row " << row;
+        EXPECT_EQ(table.highest, c.highest);
+        if (out.pasted)
             EXPECT_EQ(table.at(c.at, ColNS).text(), "N");
-        }
-    }
-}
-
-TEST(PasteRows, QuestionHasQuestionIconAndThreeButtons)
-{
-    CourseTable table;
-    table.at(0, ColNS) = Cell("N");
-    ScriptedDialogs dialogs;
-    dialogs.answers.push_back(Answer::Cancel);
-    pasteRows(table, dialogs, 0, pasted(1));
-    ASSERT_EQ(dialogs.asked.size(), 1u);
-    EXPECT_EQ(dialogs.asked[0].buttons, Buttons::YesNoCancel);
-    EXPECT_EQ(dialogs.asked[0].icon, Icon::Question);
-}
-
-TEST(PasteRows, HighestReachesEveryRow)
-{
-    struct { int existing; int at; int count; Answer answer; int highest; } cases[] = {
-        {-1, 0, 30, Answer::Yes, 30},  // grows past the default 10
-        {-1, 0, 2, Answer::Yes, 10},   // never shrinks
-        {40, 40, 5, Answer::No, 46},   // the moved entry counts
-    };
-    for (const auto &c : cases) {
-        CourseTable table;
-        if (c.existing >= 0)
-            table.at(c.existing, ColTag) = Cell("C");
-        ScriptedDialogs dialogs;
-        dialogs.answers.push_back(c.answer);
-        ASSERT_TRUE(pasteRows(table, dialogs, c.at, pasted(c.count)).pasted);
-        EXPECT_EQ(table.highest, c.highest) << c.at << " " << c.count;
     }
 }
 
