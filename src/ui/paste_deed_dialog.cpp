@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QSplitter>
 #include <QTableWidget>
+#include <QTextBlock>
 #include <QToolTip>
 #include <QVBoxLayout>
 
@@ -33,6 +34,36 @@ QString count(std::size_t n, const char *one, const char *many)
 
 } // namespace
 
+void CallMarks::setMarks(std::vector<Mark> marks)
+{
+    m_marks = std::move(marks);
+    m_reach.resize(m_marks.size());
+    int reach = 0;
+    for (std::size_t i = 0; i < m_marks.size(); ++i)
+        m_reach[i] = reach = std::max(reach, m_marks[i].end);
+    rehighlight();
+}
+
+void CallMarks::highlightBlock(const QString &text)
+{
+    const int start = currentBlock().position();
+    const int end = start + int(text.size());
+    // Marks are in order of their start; m_reach finds the first that can
+    // still reach this block. Flags last, so they show over a row's mark.
+    const auto first = std::size_t(std::upper_bound(m_reach.begin(), m_reach.end(), start) - m_reach.begin());
+    for (bool flags : {false, true}) {
+        for (std::size_t i = first; i < m_marks.size() && m_marks[i].begin < end; ++i) {
+            const Mark &m = m_marks[i];
+            if (m.flag != flags || m.end <= start)
+                continue;
+            QTextCharFormat format;
+            format.setBackground(m.colour);
+            const int from = std::max(m.begin, start);
+            setFormat(from - start, std::min(m.end, end) - from, format);
+        }
+    }
+}
+
 PasteDeedDialog::PasteDeedDialog(const QString &text, QWidget *parent) : QDialog(parent)
 {
     setObjectName("PasteDeedDialog");
@@ -45,6 +76,7 @@ PasteDeedDialog::PasteDeedDialog(const QString &text, QWidget *parent) : QDialog
     QString plain = text;
     plain.replace("\r\n", "\n").replace('\r', '\n');
     m_text->setPlainText(plain);
+    m_marks = new CallMarks(m_text->document());
     m_text->viewport()->installEventFilter(this);
 
     m_rows = new QTableWidget(0, CourseTable::kColumns, this);
@@ -57,10 +89,7 @@ PasteDeedDialog::PasteDeedDialog(const QString &text, QWidget *parent) : QDialog
     m_rows->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_rows->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_rows->setSelectionMode(QAbstractItemView::SingleSelection);
-    // Codes and angles take what they need; the lengths share the rest.
-    m_rows->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    for (int c : {ColDistance, ColChord, ColRadius})
-        m_rows->horizontalHeader()->setSectionResizeMode(c - 1, QHeaderView::Stretch);
+    m_rows->horizontalHeader()->setResizeContentsPrecision(100); // the first rows tell the widths
     connect(m_rows, &QTableWidget::cellClicked, this, [this](int row, int) { selectCall(row); });
     connect(m_rows, &QTableWidget::currentCellChanged, this, [this](int row, int) { selectCall(row); });
 
@@ -112,28 +141,44 @@ void PasteDeedDialog::reread()
 {
     m_timer.stop();
     const std::string utf8 = m_text->toPlainText().toStdString();
+    if (m_read && utf8 == m_lastRead)
+        return;
+    m_read = true;
+    m_lastRead = utf8;
     m_import = deedtext::parseDeedText(utf8);
-    auto units = [&](std::size_t byte) { return int(utf16Offset(utf8, byte)); };
+    const std::vector<std::size_t> positions = utf16Positions(utf8);
+    auto units = [&](std::size_t byte) { return int(positions[std::min(byte, utf8.size())]); };
 
     // The rows and the flagged calls in text order; a warning goes on the rows
-    // of its call, or on a line of its own when its call gave none.
+    // of its call, or on a line of its own when its call gave none. Both lists
+    // are in text order, so one sweep pairs them.
+    std::vector<const deedtext::DeedFlag *> warnings;
+    for (const deedtext::DeedFlag &f : m_import.flags)
+        if (f.severity == deedtext::Severity::Warning)
+            warnings.push_back(&f);
+    std::vector<bool> warningOnRow(warnings.size(), false);
     m_entries.clear();
+    std::size_t w = 0;
     for (std::size_t i = 0; i < m_import.rows.size(); ++i) {
         const deedtext::Span s = m_import.rows[i].span;
         Entry e{int(i), units(s.begin), units(s.end), {}, false};
-        for (const deedtext::DeedFlag &f : m_import.flags)
-            if (f.severity == deedtext::Severity::Warning && overlaps(f.span, s))
-                e.reason += (e.reason.isEmpty() ? "" : "\n") + QString::fromStdString(f.reason);
+        while (w < warnings.size() && warnings[w]->span.end <= s.begin)
+            ++w;
+        for (std::size_t k = w; k < warnings.size() && warnings[k]->span.begin < s.end; ++k) {
+            if (!overlaps(warnings[k]->span, s))
+                continue;
+            e.reason += (e.reason.isEmpty() ? "" : "\n") + QString::fromStdString(warnings[k]->reason);
+            warningOnRow[k] = true;
+        }
         m_entries.push_back(e);
     }
-    for (const deedtext::DeedFlag &f : m_import.flags) {
-        const bool onRow = f.severity == deedtext::Severity::Warning &&
-                           std::any_of(m_import.rows.begin(), m_import.rows.end(),
-                                       [&](const deedtext::DeedRow &r) { return overlaps(f.span, r.span); });
-        if (!onRow)
-            m_entries.push_back({-1, units(f.span.begin), units(f.span.end), QString::fromStdString(f.reason),
-                                 f.severity == deedtext::Severity::Flag});
-    }
+    for (std::size_t k = 0; k < warnings.size(); ++k)
+        if (!warningOnRow[k])
+            m_entries.push_back({-1, units(warnings[k]->span.begin), units(warnings[k]->span.end),
+                                 QString::fromStdString(warnings[k]->reason), false});
+    for (const deedtext::DeedFlag &f : m_import.flags)
+        if (f.severity == deedtext::Severity::Flag)
+            m_entries.push_back({-1, units(f.span.begin), units(f.span.end), QString::fromStdString(f.reason), true});
     std::stable_sort(m_entries.begin(), m_entries.end(),
                      [](const Entry &a, const Entry &b) { return a.begin < b.begin; });
     fillTable();
@@ -161,6 +206,11 @@ void PasteDeedDialog::reread()
 void PasteDeedDialog::fillTable()
 {
     const QSignalBlocker block(m_rows);
+    m_rows->setUpdatesEnabled(false);
+    // Sized to their contents, columns would be measured again at every
+    // item set: fixed while filling, measured once afterwards.
+    QHeaderView *header = m_rows->horizontalHeader();
+    header->setSectionResizeMode(QHeaderView::Fixed);
     m_rows->clearSpans();
     m_rows->setRowCount(int(m_entries.size()));
     QStringList numbers;
@@ -183,25 +233,21 @@ void PasteDeedDialog::fillTable()
         numbers << (e.row >= 0 ? QString::number(e.row + 1) : QString("!"));
     }
     m_rows->setVerticalHeaderLabels(numbers);
+    // Codes and angles take what they need; the lengths share the rest.
+    header->setSectionResizeMode(QHeaderView::ResizeToContents);
+    for (int c : {ColDistance, ColChord, ColRadius})
+        header->setSectionResizeMode(c - 1, QHeaderView::Stretch);
+    m_rows->setUpdatesEnabled(true);
 }
 
 void PasteDeedDialog::markText()
 {
-    QList<QTextEdit::ExtraSelection> marks;
-    // Rows first: a flag painted later shows over a row that shares its text.
-    for (bool flags : {false, true}) {
-        for (const Entry &e : m_entries) {
-            if (e.flag != flags)
-                continue;
-            QTextEdit::ExtraSelection mark;
-            mark.cursor = QTextCursor(m_text->document());
-            mark.cursor.setPosition(e.begin);
-            mark.cursor.setPosition(e.end, QTextCursor::KeepAnchor);
-            mark.format.setBackground(e.flag ? kFlagColour : (e.reason.isEmpty() ? kReadColour : kWarningColour));
-            marks.push_back(mark);
-        }
-    }
-    m_text->setExtraSelections(marks);
+    std::vector<CallMarks::Mark> marks;
+    marks.reserve(m_entries.size());
+    for (const Entry &e : m_entries)
+        marks.push_back({e.begin, e.end, e.flag ? kFlagColour : (e.reason.isEmpty() ? kReadColour : kWarningColour),
+                         e.flag});
+    m_marks->setMarks(std::move(marks));
 }
 
 void PasteDeedDialog::selectCall(int line)

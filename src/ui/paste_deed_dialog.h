@@ -13,7 +13,9 @@
 #include <string>
 #include <vector>
 
+#include <QColor>
 #include <QDialog>
+#include <QSyntaxHighlighter>
 #include <QTimer>
 
 #include "deed_text.h"
@@ -25,6 +27,29 @@ class QPushButton;
 class QTableWidget;
 
 namespace quilmar {
+
+/// The colours of the calls in the text, as formats of the layout only: the
+/// text, its undo history and its change signal are untouched. Painting a
+/// block costs the marks on it, so a long one-paragraph deed stays quick.
+class CallMarks : public QSyntaxHighlighter {
+public:
+    struct Mark {
+        int begin = 0; ///< UTF-16 position in the document
+        int end = 0;
+        QColor colour;
+        bool flag = false; ///< painted over the others
+    };
+    using QSyntaxHighlighter::QSyntaxHighlighter;
+    /// @param marks  in order of their begin
+    void setMarks(std::vector<Mark> marks);
+
+protected:
+    void highlightBlock(const QString &text) override;
+
+private:
+    std::vector<Mark> m_marks;
+    std::vector<int> m_reach; ///< the furthest end of marks 0..i
+};
 
 class PasteDeedDialog : public QDialog {
     Q_OBJECT
@@ -66,7 +91,10 @@ private:
     QTableWidget *m_rows = nullptr;
     QLabel *m_summary = nullptr;
     QPushButton *m_insert = nullptr;
+    CallMarks *m_marks = nullptr;
     QTimer m_timer;
+    bool m_read = false;
+    std::string m_lastRead; ///< the text of the last reading
     deedtext::DeedImport m_import;
     std::vector<Entry> m_entries;
 };

@@ -1,5 +1,7 @@
 #include "utf16_offset.h"
 
+#include <algorithm>
+
 namespace quilmar {
 
 namespace {
@@ -31,21 +33,26 @@ std::size_t sequenceLength(std::string_view text, std::size_t i)
 
 } // namespace
 
-std::size_t utf16Offset(std::string_view text, std::size_t byteOffset)
+std::vector<std::size_t> utf16Positions(std::string_view text)
 {
+    std::vector<std::size_t> at(text.size() + 1, 0);
     std::size_t units = 0;
     std::size_t i = 0;
-    while (i < text.size() && i < byteOffset) {
-        const std::size_t n = sequenceLength(text, i);
-        if (n == 0) {
-            ++units; // one replacement character
-            ++i;
-            continue;
-        }
+    while (i < text.size()) {
+        at[i] = units;
+        const std::size_t n = std::max<std::size_t>(sequenceLength(text, i), 1); // 0: one replacement unit
         units += n == 4 ? 2 : 1;
+        for (std::size_t k = 1; k < n; ++k)
+            at[i + k] = units;
         i += n;
     }
-    return units;
+    at[text.size()] = units;
+    return at;
+}
+
+std::size_t utf16Offset(std::string_view text, std::size_t byteOffset)
+{
+    return utf16Positions(text)[std::min(byteOffset, text.size())];
 }
 
 } // namespace quilmar

@@ -6,14 +6,19 @@
 
 #include <cstddef>
 #include <string_view>
+#include <vector>
 
 namespace quilmar {
 
-/// The UTF-16 position of byte @p byteOffset of the UTF-8 @p text: the number
-/// of UTF-16 units the characters before it take. An offset past the end
-/// counts the whole text. An offset inside a character counts that character.
-/// A byte that starts no valid character (a stray continuation byte, a cut
-/// sequence) counts as one unit; text taken from a Qt widget never has one.
+/// The UTF-16 position of every byte offset 0 to size() of the UTF-8 @p text:
+/// the number of UTF-16 units the characters before it take. An offset inside
+/// a character counts that character. A byte that starts no valid character (a
+/// stray continuation byte, a cut sequence) counts as one unit; text taken
+/// from a Qt widget never has one. One pass: linear in the text's length.
+std::vector<std::size_t> utf16Positions(std::string_view text);
+
+/// The UTF-16 position of byte @p byteOffset alone, as utf16Positions gives
+/// it; an offset past the end counts the whole text.
 std::size_t utf16Offset(std::string_view text, std::size_t byteOffset);
 
 } // namespace quilmar

@@ -11,6 +11,8 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableWidget>
+#include <QTextBlock>
+#include <QTextLayout>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -89,6 +91,11 @@ TEST(PasteDeedDialog, RowsFlagsAndSelection)
         EXPECT_EQ(cursor.selectedText(), QString::fromUtf8(p.selected)) << p.line;
         EXPECT_EQ(cursor.selectionStart(), p.start) << p.line;
     }
+    // The marks in the text: green from 32, red over the flagged call.
+    QStringList marks;
+    for (const QTextLayout::FormatRange &r : d.textEdit()->document()->firstBlock().layout()->formats())
+        marks << QString("%1+%2 %3").arg(r.start).arg(r.length).arg(r.format.background().color().name());
+    EXPECT_EQ(marks.join(", ").toStdString(), "32+25 #c8f0c8, 58+30 #ffb8b8, 89+40 #c8f0c8");
     EXPECT_EQ(d.reasonAt(60), "minutes over 59");
     EXPECT_TRUE(d.reasonAt(40).isEmpty());
 }
@@ -105,6 +112,18 @@ TEST(PasteDeedDialog, RereadsShortlyAfterTyping)
     d.reread();
     EXPECT_EQ(d.rowTable()->rowCount(), 0);
     EXPECT_FALSE(d.insertButton()->isEnabled());
+}
+
+TEST(PasteDeedDialog, WarningGoesOnItsRow)
+{
+    PasteDeedDialog d("Beginning at a beech; thence N 10 E about 75 poles; thence S 5 W 20 feet;");
+    ASSERT_EQ(d.rowTable()->rowCount(), 2);
+    EXPECT_EQ(d.rowTable()->item(0, 5)->text(), "1237.5");
+    EXPECT_EQ(d.rowTable()->item(0, 5)->toolTip(), "distance given as about");
+    EXPECT_TRUE(d.rowTable()->item(1, 5)->toolTip().isEmpty());
+    EXPECT_EQ(d.reasonAt(30), "distance given as about");
+    EXPECT_EQ(d.findChild<QLabel *>("DeedSummary")->text(),
+              "2 course rows read; 1 line in amber is read as the deed says but deserves a look.");
 }
 
 TEST(PasteDeedDialog, InsertReturnsRowsCancelReturnsNothing)
