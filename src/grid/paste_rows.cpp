@@ -33,9 +33,11 @@ std::string rowsText(int first, int last)
 
 std::string tooMany(int count, int at)
 {
-    return "The pasted text gives " + std::to_string(count) + " rows, but the table holds " +
-           std::to_string(CourseTable::kRows) + " rows and only " + std::to_string(CourseTable::kRows - at) +
-           " fit from row " + std::to_string(at + 1) + " on. Nothing was pasted.";
+    const std::string rows = "The pasted text gives " + std::to_string(count) + " rows; ";
+    if (at == 0)
+        return rows + "the table holds only " + std::to_string(CourseTable::kRows) + ". Nothing was pasted.";
+    return rows + "only " + std::to_string(CourseTable::kRows - at) + " fit from row " + std::to_string(at + 1) +
+           " to the end of the table (" + std::to_string(CourseTable::kRows) + " rows). Nothing was pasted.";
 }
 
 } // namespace
