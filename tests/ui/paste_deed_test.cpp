@@ -2,28 +2,18 @@
 // byte offsets turned into Qt's positions, the rows and flags the dialog
 // shows, selecting a row's call, Insert and Cancel, and the rows in the grid.
 
-#include <QAction>
-#include <QApplication>
-#include <QClipboard>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTextBlock>
 #include <QTextLayout>
-#include <QTest>
 #include <QTimer>
-#include <gtest/gtest.h>
 
-#include "entry_grid.h"
 #include "map_canvas.h"
 #include "paste_deed_dialog.h"
-#include "plotter.h"
 #include "qt_dialogs.h"
-#include "scripted_dialogs.h"
 #include "utf16_offset.h"
+#include "window_fixture.h"
 
 using namespace quilmar;
 
@@ -141,25 +131,13 @@ TEST(PasteDeedDialog, InsertReturnsRowsCancelReturnsNothing)
     }
 }
 
-class PasteCommand : public ::testing::Test {
+class PasteCommand : public test::WindowTest {
 protected:
-    ScriptedDialogs dialogs;
-    std::unique_ptr<Plotter> w;
-    void SetUp() override
-    {
-        const std::string dir = ::testing::TempDir();
-        w = std::make_unique<Plotter>(dialogs, startupOptionsIn(dir, "quilmar_paste", true));
-        w->resize(1100, 700);
-        w->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(w.get()));
-    }
     void paste(std::vector<PastedRow> rows)
     {
         dialogs.pastes.push_back(std::move(rows));
-        w->findChild<QAction *>("mnuPasteDeed")->trigger();
+        trigger("mnuPasteDeed");
     }
-    std::string tableText(int row, int column) { return w->engine().table().at(row, column).text(); }
-    std::string fieldText(int row, int column) { return w->grid().field({row, column})->text().toStdString(); }
 };
 
 const std::vector<PastedRow> kSquare = {
@@ -169,8 +147,8 @@ const std::vector<PastedRow> kSquare = {
 
 TEST_F(PasteCommand, EntryAfterDeleteAllOpensTheDialogOnTheClipboard)
 {
-    const QList<QAction *> edit = w->findChild<QMenu *>("Editmenu")->actions();
-    const auto at = edit.indexOf(w->findChild<QAction *>("mnuDeleteAll"));
+    const QList<QAction *> edit = child<QMenu>("Editmenu")->actions();
+    const auto at = edit.indexOf(action("mnuDeleteAll"));
     ASSERT_EQ(edit.size(), at + 3);
     EXPECT_TRUE(edit[at + 1]->isSeparator());
     EXPECT_EQ(edit[at + 2]->text(), "Paste D&eed Text...");
@@ -178,7 +156,7 @@ TEST_F(PasteCommand, EntryAfterDeleteAllOpensTheDialogOnTheClipboard)
     QApplication::clipboard()->setText(kDeed);
     edit[at + 2]->trigger(); // the dialog cancels: nothing changes
     EXPECT_EQ(dialogs.pasteTexts, std::vector<std::string>{kDeed.toStdString()});
-    EXPECT_TRUE(tableText(0, ColNS).empty());
+    EXPECT_TRUE(cell(0, ColNS).empty());
     EXPECT_FALSE(w->engine().mapComputed());
     EXPECT_TRUE(dialogs.asked.empty());
 }
@@ -197,7 +175,7 @@ TEST_F(PasteCommand, IntoTheGridAtTheFocusedRowWithEachAnswer)
         {Answer::Cancel, "S", "", false},
     };
     for (const auto &c : cases) {
-        SetUp();
+        start(true);
         if (c.answer) {
             w->engine().editTable().at(2, ColNS) = Cell("S");
             w->engine().editTable().at(2, ColDistance) = Cell("5");
@@ -205,19 +183,19 @@ TEST_F(PasteCommand, IntoTheGridAtTheFocusedRowWithEachAnswer)
         }
         w->grid().rules().populatefields();
         w->grid().sync();
-        w->grid().field({2, ColDeg})->setFocus();
+        field(2, ColDeg)->setFocus();
         QApplication::processEvents();
         paste(kSquare);
-        EXPECT_EQ(tableText(2, ColNS), c.row2NS);
-        EXPECT_EQ(tableText(7, ColNS), c.row7NS);
+        EXPECT_EQ(cell(2, ColNS), c.row2NS);
+        EXPECT_EQ(cell(7, ColNS), c.row7NS);
         EXPECT_EQ(w->engine().mapComputed(), c.drawn);
         EXPECT_EQ(!w->findChild<MapCanvas *>()->isBlank(), c.drawn);
         // The grid shows the table, row for row.
         for (int r = 0; r < GridRules::kVisibleRows; ++r)
             for (int col = ColNS; col <= ColTag; ++col)
-                EXPECT_EQ(fieldText(r, col), tableText(r, col)) << r << "," << col;
+                EXPECT_EQ(field(r, col)->text().toStdString(), cell(r, col)) << r << "," << col;
         if (c.drawn)
-            EXPECT_EQ(tableText(6, ColTag), "C");
+            EXPECT_EQ(cell(6, ColTag), "C");
         dialogs.answers.clear();
     }
 }
@@ -226,7 +204,7 @@ TEST_F(PasteCommand, PastedRowsBelowTheTopRowStillAskToSave)
 {
     w->grid().setScroll(30);
     paste(kSquare);
-    ASSERT_EQ(tableText(30, ColNS), "N");
+    ASSERT_EQ(cell(30, ColNS), "N");
     w->grid().setScroll(0); // the top row's N/S field is empty
     dialogs.answers.push_back(Answer::Cancel);
     w->close();
