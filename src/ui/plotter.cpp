@@ -305,7 +305,6 @@ void Plotter::Toolbar_Click(int index)
         break;
     case 2:
         if (m_grid->rules().clearAll(out)) {
-            m_pastedUnsaved = false;
             m_headerbox->clear();
             m_engine.setAcresbox({});
             setAcres({});
@@ -437,13 +436,10 @@ void Plotter::saveit(int mode)
     // A failed write leaves any old file as it was; the command ends without a message.
     if (!writeMapFile(path, m_engine.mapFileBytes(), &error))
         qWarning("quilmar: %s not saved: %s", path.c_str(), error.c_str());
-    else
-        m_pastedUnsaved = false;
 }
 
 void Plotter::clearScreenSide()
 {
-    m_pastedUnsaved = false;
     m_grid->rules().clearFields();
     m_grid->sync();
     m_headerbox->clear();
@@ -506,7 +502,7 @@ void Plotter::fileopen_Click()
 bool Plotter::askToSave()
 {
     // Only the top row's N/S field counts as data, deliberately.
-    if (m_grid->rules().topRowEmpty() && !m_pastedUnsaved)
+    if (m_grid->rules().topRowEmpty())
         return true;
     switch (m_dialogs.question("Do you wish to save the data?", Buttons::YesNoCancel, Icon::Question)) {
     case Answer::Yes:

@@ -165,9 +165,6 @@ private:
     QAction *m_undo = nullptr, *m_cut = nullptr, *m_copy = nullptr, *m_paste = nullptr;
     QAction *m_acresAction = nullptr, *m_hectaresAction = nullptr;
     bool m_exiting = false;
-    /// Rows were pasted since the last save, open or clear: closing asks to
-    /// save even when the top row's N/S field is empty.
-    bool m_pastedUnsaved = false;
     QPointer<PrintOptionsDialog> m_printOptionsDialog;
     QPointer<ZoomForm> m_zoom;
     QPointer<QTextBrowser> m_help;

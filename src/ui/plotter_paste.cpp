@@ -30,7 +30,6 @@ void Plotter::mnuPasteDeed_Click()
         return;
     if (!pasteRows(m_engine.editTable(), m_dialogs, at, *rows).pasted)
         return;
-    m_pastedUnsaved = true;
     refreshVisibleRows();
     Toolbar_Click(0);
 }

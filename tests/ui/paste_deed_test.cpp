@@ -200,19 +200,4 @@ TEST_F(PasteCommand, IntoTheGridAtTheFocusedRowWithEachAnswer)
     }
 }
 
-TEST_F(PasteCommand, PastedRowsBelowTheTopRowStillAskToSave)
-{
-    w->grid().setScroll(30);
-    paste(kSquare);
-    ASSERT_EQ(cell(30, ColNS), "N");
-    w->grid().setScroll(0); // the top row's N/S field is empty
-    dialogs.answers.push_back(Answer::Cancel);
-    w->close();
-    EXPECT_TRUE(w->isVisible());
-    ASSERT_FALSE(dialogs.asked.empty());
-    EXPECT_EQ(dialogs.asked.back().text, "Do you wish to save the data?");
-    dialogs.answers.push_back(Answer::No);
-    w->close();
-}
-
 } // namespace
