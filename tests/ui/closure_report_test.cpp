@@ -37,19 +37,6 @@ protected:
     }
 };
 
-TEST_F(ClosureWindow, MenuEntryFollowsPerimeterWithAShortcutOfItsOwn)
-{
-    auto *report = w->findChild<QAction *>("mnuClosureReport");
-    ASSERT_TRUE(report);
-    EXPECT_EQ(report->text(), "Closure Report...");
-    const auto actions = w->findChild<QMenu *>("mnuView")->actions();
-    EXPECT_EQ(actions.indexOf(report), actions.indexOf(w->findChild<QAction *>("mnuPeri")) + 1);
-    for (QAction *other : w->findChildren<QAction *>()) {
-        if (other != report)
-            EXPECT_NE(other->shortcut(), report->shortcut()) << other->objectName().toStdString();
-    }
-}
-
 TEST_F(ClosureWindow, AppliesReachGridAndMapAndUndoPutsBothBack)
 {
     dialogs.closureSteps = {{ClosureStep::Apply, 0, 0}, {ClosureStep::Apply, 1, 0}};

@@ -93,6 +93,15 @@ TEST_F(Commands, TheMenuTreeWithNamesCaptionsShortcutsAndHiddenEntries)
     for (QAction *a : w->menuBar()->actions())
         bar << a->text() + (a->isVisible() ? "" : " (hidden)");
     EXPECT_EQ(bar.join(","), "&File,&Edit,C&onversions,Popup (hidden),&Map,&Help");
+    // Two entries on one shortcut would leave both dead: every shortcut is one entry's.
+    QHash<QString, QString> owner;
+    for (QAction *a : w->findChildren<QAction *>()) {
+        const QString key = a->shortcut().toString();
+        if (!key.isEmpty())
+            EXPECT_FALSE(owner.contains(key)) << qPrintable(key) << ": " << qPrintable(owner[key]) << ", "
+                                              << qPrintable(a->objectName());
+        owner[key] = a->objectName();
+    }
 
     // The metric mode shows the other unit entries.
     start(false);
