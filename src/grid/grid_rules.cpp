@@ -316,6 +316,18 @@ void GridRules::scrollTo(int value)
 {
     m_scroll = value < 0 ? 0 : (value > kMaxScroll ? kMaxScroll : value);
     populatefields();
+    followScroll();
+}
+
+void GridRules::followScroll()
+{
+    // The window scrolls by itself (opening a file, a sample, clearing all)
+    // without taking the focus from the field: the field now shows, and so
+    // edits, the row at the new scroll value; what it showed before is gone.
+    if (m_focused && m_scrollAtFocus != m_scroll) {
+        m_scrollAtFocus = m_scroll;
+        m_valueOnEntry = text(*m_focused);
+    }
 }
 
 void GridRules::populatefields()
@@ -411,6 +423,7 @@ bool GridRules::clearAll(GridOutcome &out)
     out.focus = FieldRef{0, ColNS};
     m_scroll = 0;
     populatefields();
+    followScroll();
     return true;
 }
 

@@ -92,6 +92,8 @@ public:
     int scroll() const { return m_scroll; }
     /// The scroll bar moved to @p value (0..191): the window has already moved
     /// the focus away, so the edited field's text is in the table. Refills.
+    /// When the window scrolls with a field still focused, that field then
+    /// belongs to the row it shows (its text is stored there when left).
     void scrollTo(int value);
     /// Copies table rows scroll..scroll+9 into the fields.
     void populatefields();
@@ -130,6 +132,7 @@ private:
     void fail(const std::string &text, std::optional<FieldRef> focus, GridOutcome &outcome, Icon icon = Icon::Exclamation);
     void enter(FieldRef f);
     bool checkLeaving(FieldRef f, GridOutcome &outcome);
+    void followScroll();
 
     CourseTable &m_table;
     Dialogs &m_dialogs;

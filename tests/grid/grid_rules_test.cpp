@@ -334,3 +334,36 @@ TEST_F(Grid, ClearRowAndClearAll)
     EXPECT_EQ(rules.scroll(), 0);
     EXPECT_EQ(all.focus, (FieldRef{0, ColNS}));
 }
+
+// The window scrolls by itself (clearing all, opening a file or a sample)
+// while a field keeps the focus: what is typed there afterwards belongs to the
+// row the field now shows, not to the row it showed when it got the focus.
+TEST_F(Grid, FieldStillFocusedAfterTheWindowScrollsStoresIntoTheRowItShows)
+{
+    const struct {
+        const char *how;
+        int scrollBefore;
+        FieldRef focused;
+        std::function<void(GridRules &)> scroll;
+        int expectedRow; // table row the typed text must reach
+    } cases[] = {
+        {"clear all", 136, {1, ColMin}, [](GridRules &g) { GridOutcome o; g.clearAll(o); }, 1},
+        {"clear all at the top", 0, {4, ColNS}, [](GridRules &g) { GridOutcome o; g.clearAll(o); }, 4},
+        {"scroll to the top", 40, {0, ColNS}, [](GridRules &g) { g.scrollTo(0); }, 0},
+        {"scroll down", 3, {9, ColTag}, [](GridRules &g) { g.scrollTo(30); }, 39},
+    };
+    for (const auto &c : cases) {
+        CourseTable t;
+        ScriptedDialogs d;
+        GridRules g(t, d, [] {});
+        g.scrollTo(c.scrollBefore);
+        g.gotFocus(c.focused);
+        c.scroll(g);
+        g.setText(c.focused, "7");
+        g.lostFocus(c.focused);
+        EXPECT_EQ(t.at(c.expectedRow, c.focused.column).text(), "7") << c.how;
+        if (c.expectedRow != c.scrollBefore + c.focused.row)
+            EXPECT_EQ(t.at(c.scrollBefore + c.focused.row, c.focused.column).text(), "") << c.how;
+        EXPECT_EQ(g.valueOnEntry(), "") << c.how; // the refilled text, so an unchanged field does not redraw
+    }
+}
