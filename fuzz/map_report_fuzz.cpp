@@ -4,9 +4,8 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <fstream>
 #include <string>
-#include <unistd.h>
+#include <string_view>
 
 #include "engine.h"
 
@@ -20,25 +19,15 @@ public:
     }
 };
 
-// One file per fuzzing process, rewritten for every input: the engine opens
-// maps by path, exactly as the window and the command line do.
-const std::string &scratchPath()
-{
-    static const std::string path = "/tmp/quilmar_fuzz_" + std::to_string(getpid()) + ".map";
-    return path;
-}
-
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    {
-        std::ofstream file(scratchPath(), std::ios::binary | std::ios::trunc);
-        file.write(reinterpret_cast<const char *>(data), static_cast<std::streamsize>(size));
-    }
+    // The bytes go through the same reading as a file the engine opens by
+    // path; a fresh engine for each input, as for each `quilmar report`.
     SilentPrompter prompter;
     quilmar::Engine engine(prompter);
-    if (!engine.openMapFile(scratchPath()).ok())
+    if (!engine.openMapBytes(std::string_view(reinterpret_cast<const char *>(data), size)).ok())
         return 0;
     engine.mnuGap_Click();
     engine.mnuPeri_Click();

@@ -29,6 +29,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "canvas_view.h"
 #include "course_table.h"
@@ -114,6 +115,9 @@ public:
     /// and draws it. A missing file shows "File ... not found."; other failures
     /// show nothing. On failure the table is left as it was.
     OpenOutcome openMapFile(const std::string &path, const OpenOverrides &overrides = {});
+    /// openMapFile for a map file's bytes already in memory (the same reading
+    /// and drawing; only the file is not touched). Always reads Ok.
+    OpenOutcome openMapBytes(std::string_view bytes, const OpenOverrides &overrides = {});
     /// Replaces the table with demo sample @p n (1 to 6) and draws it.
     void loadDemoSample(int n);
     /// The map file bytes that "Save As..." writes now.
@@ -160,6 +164,10 @@ private:
     void buildAreaTexts();
     void markEnd();
     bool areaGapTooLarge(bool hectares);
+    /// What opening empties before the file is read (also when it fails).
+    void clearForOpen();
+    /// Stores and draws what was read; a failed read leaves the table alone.
+    OpenOutcome showMap(MapReadResult read, const OpenOverrides &overrides);
 
     Prompter &m_prompter;
     CourseTable m_table;

@@ -8,12 +8,26 @@ namespace quilmar {
 
 OpenOutcome Engine::openMapFile(const std::string &path, const OpenOverrides &overrides)
 {
+    clearForOpen();
+    return showMap(readMapFile(path), overrides);
+}
+
+OpenOutcome Engine::openMapBytes(std::string_view bytes, const OpenOverrides &overrides)
+{
+    clearForOpen();
+    return showMap(readMapBytes(bytes), overrides);
+}
+
+void Engine::clearForOpen()
+{
     m_description.clear();
     m_acresbox.clear();
     m_autoScale.reset();
     m_draw.figure.clear();
+}
 
-    MapReadResult read = readMapFile(path);
+OpenOutcome Engine::showMap(MapReadResult read, const OpenOverrides &overrides)
+{
     if (read.status == MapReadStatus::NotFound)
         showError(read.message);
     if (read.status != MapReadStatus::Ok)

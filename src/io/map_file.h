@@ -101,6 +101,11 @@ struct MapReadResult {
 /// a regular file give Failed. Never throws.
 MapReadResult readMapFile(const std::string &path);
 
+/// Takes apart the bytes of a map file already in memory, exactly as
+/// readMapFile does after reading them (readMapFile calls it). Always Ok;
+/// the caller keeps to kMaxMapFileBytes. Never throws.
+MapReadResult readMapBytes(std::string_view bytes);
+
 /// The message for a file that does not exist: "File " + name + " not found.".
 std::string fileNotFoundMessage(const std::string &name);
 

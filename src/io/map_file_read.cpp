@@ -89,7 +89,11 @@ MapReadResult readMapFile(const std::string &path)
     }
     if (!read.ok)
         return failed(read.error);
+    return readMapBytes(bytes);
+}
 
+MapReadResult readMapBytes(std::string_view bytes)
+{
     MapReadResult result;
     result.status = MapReadStatus::Ok;
     takeApart(bytes, result);

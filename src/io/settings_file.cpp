@@ -1,12 +1,17 @@
 #include "settings_file.h"
 
-#include <INIReader.h>
+#include <ini.h>
 
+#include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <limits>
+#include <map>
+#include <string_view>
 
 #include "number_format.h"
 #include "number_read.h"
+#include "safe_file.h"
 #include "vb_math.h"
 
 namespace quilmar {
@@ -22,13 +27,49 @@ double readNumber(const std::string &text)
     }
 }
 
-// The parser joins repeated keys with line breaks; the profile call returns the first.
-std::string firstValue(const INIReader &ini, const char *section, const char *key, const char *fallback)
+// The settings as parsed: the first value of each key (the profile call
+// returns the first of repeated keys), under "section=key" in lower case.
+using Profile = std::map<std::string, std::string>;
+
+std::string profileKey(std::string_view section, std::string_view key)
 {
-    std::string v = ini.Get(section, key, fallback);
-    if (const auto nl = v.find('\n'); nl != std::string::npos)
-        v.erase(nl);
-    return std::string(trimBlanks(v));
+    std::string k = std::string(section) + "=" + std::string(key);
+    std::transform(k.begin(), k.end(), k.begin(), [](unsigned char c) { return char(std::tolower(c)); });
+    return k;
+}
+
+int keepFirst(void *user, const char *section, const char *name, const char *value)
+{
+    if (name)
+        static_cast<Profile *>(user)->emplace(profileKey(section, name), value ? value : "");
+    return 1;
+}
+
+// Hands the parser the text line by line exactly as it reads a file (the C
+// library's line reader): at most num - 1 bytes, up to and with a line feed,
+// NUL bytes passed on as they are.
+struct TextStream {
+    std::string_view rest;
+};
+
+char *nextLine(char *str, int num, void *stream)
+{
+    auto &text = static_cast<TextStream *>(stream)->rest;
+    if (text.empty() || num < 2)
+        return nullptr;
+    std::size_t n = std::min(text.size(), std::size_t(num - 1));
+    if (const auto lf = text.substr(0, n).find('\n'); lf != std::string_view::npos)
+        n = lf + 1;
+    std::memcpy(str, text.data(), n);
+    str[n] = '\0';
+    text.remove_prefix(n);
+    return str;
+}
+
+std::string firstValue(const Profile &profile, const char *section, const char *key, const char *fallback)
+{
+    const auto it = profile.find(profileKey(section, key));
+    return std::string(trimBlanks(it == profile.end() ? std::string(fallback) : it->second));
 }
 
 int16_t wholeNumber(double v)
@@ -59,10 +100,18 @@ std::string classicStr(double v)
 
 SettingsValues readSettings(const std::string &iniPath)
 {
+    std::string bytes;
+    if (!readFileLimited(iniPath, kMaxSettingsFileBytes, bytes).ok)
+        return SettingsValues{};
+    return readSettingsText(bytes);
+}
+
+SettingsValues readSettingsText(std::string_view text)
+{
     SettingsValues s;
-    const INIReader ini(iniPath);
-    if (ini.ParseError() == -1)
-        return s;
+    Profile ini;
+    TextStream stream{text};
+    ini_parse_stream(nextLine, &stream, keepFirst, &ini); // a line it cannot parse is passed over
     std::string scales = firstValue(ini, "Setting", "Scales", "50;100;200;400;800;1500;2000;3000;4000");
     if (!scales.empty() && scales.back() == '\0')
         scales.pop_back();

@@ -11,6 +11,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quilmar {
@@ -25,8 +26,17 @@ struct SettingsValues {
     std::array<int16_t, 5> printOptions{1, 1, 1, 0, 0};
 };
 
-/// Reads @p iniPath (UTF-8). A missing or unreadable file gives the defaults.
+/// Settings files larger than this (bytes) are not read: a real one is a few lines.
+inline constexpr std::uintmax_t kMaxSettingsFileBytes = 1024u * 1024u;
+
+/// Reads @p iniPath (UTF-8) through readSettingsText. A missing or unreadable
+/// file, anything but a regular file, and a file over kMaxSettingsFileBytes give
+/// the defaults.
 SettingsValues readSettings(const std::string &iniPath);
+
+/// The settings in the text of a settings file (any bytes; a NUL ends only the
+/// line it is in, as when the file is read). Never throws.
+SettingsValues readSettingsText(std::string_view text);
 
 /// The numeric items of the scale box for a Scales text: each piece up to ";"
 /// read by the leading-number rule and written as the classic number-to-text

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+
 #include "temp_folder.h"
 
 using namespace quilmar;
@@ -45,4 +47,42 @@ TEST_F(Settings, ScaleListEdgeCases)
     EXPECT_EQ(read("[Setting]\nScales=250\n").scales, "250");
     EXPECT_TRUE(scaleItems(read("[Setting]\nScales=\n").scales).empty());
     EXPECT_EQ(scaleItems("-20;1E3;"), (std::vector<std::string>{"-20", " 1000"}));
+}
+
+// The file reader hands its bytes to the text reader: both must agree on
+// every shape of file, the awkward ones included.
+TEST_F(Settings, TextAndFileReadTheSame)
+{
+    const std::string longScales = "[Setting]\nScales=" + std::string(300, '7') + ";5\n";
+    const struct {
+        std::string content;
+        std::optional<std::string> scales; // nothing: only that both agree
+    } cases[] = {
+        {"[Setting]\r\nScales=10;20\r\n", "10;20"},
+        {std::string("[Setting]\nScales=30\0;40\nScaleMetric=9\n", 31), "30"}, // NUL ends the line's value only
+        {std::string("[Set\0ting]\nScales=1\n", 20), "50;100;200;400;800;1500;2000;3000;4000"},
+        {"\xEF\xBB\xBF[setting]\nscales = 60 ;70\n", "60"}, // byte-order mark; ";" after a blank starts a comment
+        {"[Setting]\nScales=80\nScales=90\n", "80"},
+        {"[Setting]\nScales=1\n  continued\n", "1"}, // a continuation line joins with a line break
+        {"no section\nScales=5\n[Setting]\rScales=6\r", "50;100;200;400;800;1500;2000;3000;4000"},
+        {"[Setting]\nScales=\n  60\n", ""}, // the first value counts, even an empty one
+        {longScales, std::nullopt},
+    };
+    for (const auto &c : cases) {
+        const SettingsValues fromText = readSettingsText(c.content);
+        const SettingsValues fromFile = read(c.content);
+        if (c.scales)
+            EXPECT_EQ(fromText.scales, *c.scales) << ::testing::PrintToString(c.content);
+        EXPECT_EQ(fromText.scales, fromFile.scales) << ::testing::PrintToString(c.content);
+        EXPECT_EQ(fromText.scaleMetric, fromFile.scaleMetric) << ::testing::PrintToString(c.content);
+        EXPECT_EQ(fromText.printOptions, fromFile.printOptions) << ::testing::PrintToString(c.content);
+    }
+}
+
+TEST_F(Settings, AFolderOrAnOversizedFileGivesTheDefaults)
+{
+    EXPECT_EQ(readSettings(folder.path().string()).scales, SettingsValues{}.scales);
+    const std::string big = "[Setting]\nScales=1\n" + std::string(kMaxSettingsFileBytes, ' ');
+    EXPECT_EQ(readSettingsText(big).scales, "1");
+    EXPECT_EQ(read(big).scales, SettingsValues{}.scales);
 }
