@@ -160,8 +160,16 @@ void EntryGrid::apply(const GridOutcome &outcome)
     sync();
     if (outcome.showTagMenu)
         m_tagMenu->popup(QCursor::pos());
-    if (outcome.focus)
+    if (outcome.focus && m_focusMoves < 2) {
+        // Moving the focus runs the rules of the field left and of the field
+        // reached, and either may ask for another move: a field whose check
+        // fails takes the focus back, a failed row check sends it to the
+        // offending field. One move back is the rules' own; a further one would
+        // let the two checks send the focus to and fro for ever.
+        ++m_focusMoves;
         field(*outcome.focus)->setFocus(Qt::OtherFocusReason);
+        --m_focusMoves;
+    }
 }
 
 void EntryGrid::run(const std::function<GridOutcome()> &call)

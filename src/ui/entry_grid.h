@@ -61,6 +61,7 @@ private:
     QLineEdit *m_active = nullptr;
     int m_namedScroll = -1;
     bool m_busy = false;
+    int m_focusMoves = 0; ///< focus moves of apply() under way, nested
 };
 
 /// The header captions "NS", "Deg", ... "Tag", column 1 at index 0.

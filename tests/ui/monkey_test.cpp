@@ -1,10 +1,12 @@
 // The monkey: a seeded run of random keys, clicks, scrolls, menu commands and
 // dialog answers on the real window (offscreen platform). Nothing may crash,
-// hang or assert, and after every event each grid field that is not being
-// edited shows exactly what the course table holds.
+// hang or assert; after every event Qt's focus and the grid rules' focus are
+// on the same field, and each field shows exactly what the course table holds
+// unless the rules deliberately keep its text until it is left.
 //
-// QUILMAR_MONKEY_EVENTS sets the length (a short run by default; the README
-// documents the long one), QUILMAR_MONKEY_SEED the seed.
+// QUILMAR_MONKEY_EVENTS sets the length (30000 by default, a few seconds in
+// the plain build; the README documents the long runs), QUILMAR_MONKEY_SEED
+// the seed.
 
 #include <unistd.h>
 
@@ -66,7 +68,7 @@ std::string history(const std::vector<std::string> &log)
 
 TEST(Monkey, RandomSessionKeepsTheGridAndTheTableTogether)
 {
-    const long events = envNumber("QUILMAR_MONKEY_EVENTS", 700);
+    const long events = envNumber("QUILMAR_MONKEY_EVENTS", 30000);
     const auto seed = static_cast<unsigned>(envNumber("QUILMAR_MONKEY_SEED", 20261123));
     std::mt19937 random(seed);
     auto pick = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
@@ -107,7 +109,9 @@ TEST(Monkey, RandomSessionKeepsTheGridAndTheTableTogether)
             else
                 QTest::keyClick(focus, kKeys[pick(7)]);
         } else if (kind < 70) {
-            QTest::mouseClick(grid.field({pick(10), 1 + pick(10)}), Qt::LeftButton);
+            QLineEdit *target = grid.field({pick(10), 1 + pick(10)});
+            log.back() += " click " + target->objectName().toStdString();
+            QTest::mouseClick(target, Qt::LeftButton);
         } else if (kind < 78) {
             grid.scrollBar()->setValue(pick(192));
         } else if (kind < 90) {
@@ -155,7 +159,7 @@ TEST(Monkey, RandomSessionKeepsTheGridAndTheTableTogether)
         if (std::getenv("QUILMAR_MONKEY_TRACE")) {
             const auto rf = grid.rules().focused();
             QWidget *qf = QApplication::focusWidget();
-            fprintf(stderr, "%ld kind %d: qt %s rules %s\n", n, kind, qf ? qf->objectName().toUtf8().constData() : "-",
+            fprintf(stderr, "%s: qt %s rules %s\n", log.back().c_str(), qf ? qf->objectName().toUtf8().constData() : "-",
                     rf ? (std::to_string(rf->row) + "," + std::to_string(rf->column)).c_str() : "-");
         }
         const int scroll = grid.scrollBar()->value();
@@ -189,6 +193,44 @@ TEST(Monkey, RandomSessionKeepsTheGridAndTheTableTogether)
                     << " current row " << grid.rules().currentRow() << "\n" << history(log);
             }
         }
+    }
+    fs::remove_all(dir);
+}
+
+// A click into another row while the current row fails its row check and the
+// field reached fails its own check when the focus is sent away again: the two
+// checks once sent the focus to and fro until the stack ran out. The focus now
+// settles, on a field the rules count as focused.
+TEST(Monkey, TwoFailingChecksDoNotSendTheFocusToAndFro)
+{
+    const struct {
+        const char *invalid; // text of the clicked field, which fails when left
+        int column;          // its column, in row 3
+    } cases[] = {{"3+927", ColMin}, {"5x", ColDistance}, {"95", ColDeg}};
+    const fs::path dir = fs::temp_directory_path() / ("quilmar_focus_" + std::to_string(::getpid()));
+    fs::create_directories(dir);
+    for (const auto &c : cases) {
+        ScriptedDialogs dialogs;
+        Plotter w(dialogs, startupOptionsIn(dir.string(), "quilmar", true));
+        w.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&w));
+        EntryGrid &grid = w.grid();
+        QTest::mouseClick(grid.field({2, ColEW}), Qt::LeftButton);
+        // Row 2: a curve whose chord is longer than its diameter.
+        for (auto [column, text] : {std::pair{ColNS, "N"}, {ColMin, "2"}, {ColEW, "W"}, {ColChord, "8"},
+                                    {ColRadius, "2"}, {ColLR, "R"}})
+            grid.rules().setText({2, column}, text);
+        grid.rules().setText({3, c.column}, c.invalid);
+        grid.sync();
+        QTest::mouseClick(grid.field({3, c.column}), Qt::LeftButton);
+
+        const auto focused = grid.rules().focused();
+        ASSERT_TRUE(focused) << c.invalid;
+        EXPECT_EQ(QApplication::focusWidget(), grid.field(*focused)) << c.invalid;
+        EXPECT_EQ(grid.rules().currentRow(), 2) << c.invalid; // the failed row stays current
+        const std::vector<std::string> boxes = dialogs.texts();
+        EXPECT_LE(boxes.size(), 3u) << c.invalid;
+        EXPECT_EQ(boxes.front(), " Chord is too long for given radius") << c.invalid;
     }
     fs::remove_all(dir);
 }
