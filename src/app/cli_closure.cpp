@@ -22,6 +22,7 @@
 #include "ground_units.h"
 #include "lot_gap_text.h"
 #include "recording_prompter.h"
+#include "report_texts.h"
 
 namespace quilmar {
 
@@ -54,35 +55,6 @@ QJsonArray adjustmentJson(const Adjustment &a)
     return calls;
 }
 
-// "12,345.679": fixed decimals, thousands grouped, "." as the point.
-std::string grouped(double v, int decimals)
-{
-    char buf[64];
-    auto [end, ec] = std::to_chars(buf, buf + sizeof buf, std::fabs(v), std::chars_format::fixed, decimals);
-    const std::string digits(buf, ec == std::errc() ? end : buf);
-    const size_t point = std::min(digits.find('.'), digits.size());
-    std::string s;
-    if (v < 0.0 && digits.find_first_not_of("0.") != std::string::npos)
-        s.push_back('-');
-    for (size_t i = 0; i < digits.size(); ++i) {
-        if (i > 0 && i < point && (point - i) % 3 == 0)
-            s.push_back(',');
-        s.push_back(digits[i]);
-    }
-    return s;
-}
-
-std::string signedGrouped(double v, int decimals)
-{
-    const std::string s = grouped(v, decimals);
-    return s[0] == '-' ? s : "+" + s;
-}
-
-std::string ratioText(const std::optional<double> &precision)
-{
-    return precision ? "1:" + grouped(std::floor(*precision), 0) : "exact";
-}
-
 std::string padRight(std::string s, size_t width)
 {
     // Count characters, not bytes, so the degree sign does not shift the columns.
@@ -99,49 +71,12 @@ std::string padLeft(const std::string &s, size_t width)
     return s.size() < width ? std::string(width - s.size(), ' ') + s : s;
 }
 
-struct AreaUnits {
-    const char *square;
-    const char *large;
-    double perLarge;
-};
-
-AreaUnits areaUnits(Units units)
-{
-    switch (units) {
-    case Units::Feet: return {"sq ft", "acres", 43560.0};
-    case Units::Meters: return {"sq m", "ha", 10000.0};
-    default: return {"square units", nullptr, 0.0};
-    }
-}
-
-std::string areaText(double area, Units units)
-{
-    const AreaUnits u = areaUnits(units);
-    std::string s = grouped(area, 2) + " " + u.square;
-    if (u.large)
-        s += " (" + grouped(area / u.perLarge, 4) + " " + u.large + ")";
-    return s;
-}
-
-std::string callText(const std::array<std::string, CourseTable::kColumns> &cells)
-{
-    std::string s;
-    for (const std::string &c : cells) {
-        if (c.empty())
-            continue;
-        if (!s.empty())
-            s += ' ';
-        s += c;
-    }
-    return s;
-}
-
 // "(better than 1:5,000 and 1:10,000; worse than 1:15,000 and 1:20,000)"
 std::string classComparison(const std::optional<double> &precision)
 {
     std::vector<std::string> reached, missed;
     for (int c : kPrecisionClasses)
-        (!precision || *precision >= c ? reached : missed).push_back("1:" + grouped(c, 0));
+        (!precision || *precision >= c ? reached : missed).push_back("1:" + groupedNumber(c, 0));
     auto join = [](const std::vector<std::string> &names) {
         std::string list;
         for (size_t i = 0; i < names.size(); ++i)
@@ -162,9 +97,9 @@ void writeAdjustment(std::ostream &out, const char *title, const Adjustment &a, 
     out << "     Row  " << padRight("North", 16) << padRight("East", 16) << padRight("Bearing", 17)
         << padRight("Distance", 13) << "Change\n";
     for (const AdjustedCall &c : a.calls) {
-        out << padLeft(std::to_string(c.row + 1), 8) << "  " << padRight(grouped(c.north, 3), 16)
-            << padRight(grouped(c.east, 3), 16) << padRight(c.bearing, 17) << padRight(grouped(c.distance, 3), 13)
-            << signedGrouped(c.bearingChange, 0) << "\"  " << signedGrouped(c.distanceChange, 3)
+        out << padLeft(std::to_string(c.row + 1), 8) << "  " << padRight(groupedNumber(c.north, 3), 16)
+            << padRight(groupedNumber(c.east, 3), 16) << padRight(c.bearing, 17) << padRight(groupedNumber(c.distance, 3), 13)
+            << signedNumber(c.bearingChange, 0) << "\"  " << signedNumber(c.distanceChange, 3)
             << (c.curve ? "  (chord)" : "") << "\n";
     }
 }
@@ -185,13 +120,13 @@ void writeText(std::ostream &out, const std::string &file, const ClosureReport &
         if (lot.gap.distance == 0.0)
             out << "  Misclosure        none: the figure closes exactly\n";
         else
-            out << "  Misclosure        " << grouped(lot.gap.distance, 3) << ", closing bearing " << lot.gap.bearing
-                << " (north error " << signedGrouped(lot.gap.north, 3) << ", east error "
-                << signedGrouped(lot.gap.east, 3) << ")\n";
+            out << "  Misclosure        " << groupedNumber(lot.gap.distance, 3) << ", closing bearing " << lot.gap.bearing
+                << " (north error " << signedNumber(lot.gap.north, 3) << ", east error "
+                << signedNumber(lot.gap.east, 3) << ")\n";
         if (!lot.programGap.empty())
             out << "  Plotter's gap     " << lot.programGap << "\n";
-        out << "  Perimeter         " << grouped(lot.perimeter, 3) << "\n";
-        out << "  Precision         " << ratioText(lot.precision) << " " << classComparison(lot.precision) << "\n"
+        out << "  Perimeter         " << groupedNumber(lot.perimeter, 3) << "\n";
+        out << "  Precision         " << precisionText(lot.precision) << " " << classComparison(lot.precision) << "\n"
             << "                    (commonly cited ratios, for comparison only; not a finding of compliance)\n";
         for (const Note &note : lot.notes)
             out << "  Note: row " << note.row + 1 << ": " << note.text << "\n";
@@ -206,7 +141,7 @@ void writeText(std::ostream &out, const std::string &file, const ClosureReport &
                     out << "insert before row " << s.row + 1 << " ";
                 else
                     out << "row " << s.row + 1 << " reads ";
-                out << callText(s.cells) << "; gap " << grouped(s.gap.distance, 3) << ", " << ratioText(s.precision)
+                out << callText(s.cells) << "; gap " << groupedNumber(s.gap.distance, 3) << ", " << precisionText(s.precision)
                     << "\n";
             }
         }
@@ -231,7 +166,7 @@ std::string jsonText(const ClosureReport &report)
         QJsonArray classes;
         for (int c : kPrecisionClasses)
             classes.append(QJsonObject{{"ratio", c},
-                                       {"name", qs("1:" + grouped(c, 0))},
+                                       {"name", qs("1:" + groupedNumber(c, 0))},
                                        {"reached", !lot.precision || *lot.precision >= c}});
         QJsonArray notes;
         for (const Note &note : lot.notes)

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "closure_report.h"
+#include "report_texts.h"
 #include "engine.h"
 
 namespace quilmar {
@@ -69,18 +70,5 @@ struct Outlines {
     std::vector<double> adjustedNorth, adjustedEast; ///< after the compass rule
 };
 Outlines compassOutlines(const analysis::LotReport &lot);
-
-/// "1,234.56 sq ft (0.0283 acres)", "1,234.56 sq m (0.1235 ha)", or
-/// "1,234.56 square units" for another unit option; @p area in square ground units.
-std::string areaText(double area, Units units);
-
-/// "1:12,345" (N rounded down, thousands grouped), or "exact" for a figure that closes.
-std::string precisionText(const std::optional<double> &precision);
-
-/// @p v with @p decimals fixed decimals and the thousands grouped by ",": "12,345.679".
-std::string groupedNumber(double v, int decimals);
-
-/// A suggestion's kind in plain words, e.g. "N and S exchanged".
-std::string kindWords(analysis::BlunderKind kind);
 
 } // namespace quilmar

@@ -26,24 +26,6 @@ using namespace analysis;
 
 QString qs(const std::string &s) { return QString::fromStdString(s); }
 
-std::string signedNumber(double v, int decimals)
-{
-    const std::string s = groupedNumber(v, decimals);
-    return s[0] == '-' ? s : "+" + s;
-}
-
-std::string callText(const std::array<std::string, CourseTable::kColumns> &cells)
-{
-    std::string s;
-    for (const std::string &c : cells) {
-        if (c.empty())
-            continue;
-        if (!s.empty())
-            s += ' ';
-        s += c;
-    }
-    return s;
-}
 
 QLabel *valueLabel(const QString &text, const QString &name, QWidget *parent)
 {
