@@ -103,7 +103,9 @@ private:
             if (w != "of")
                 return false;
             const std::string_view b = prevWord(k);
-            return b == "beginning" || b == "point" || b == "pc" || b == "begin";
+            // "point of curvature of a curve": the curvature word names the same point
+            return b == "beginning" || b == "point" || b == "pc" || b == "begin" || b == "curvature" || b == "pcc"
+                   || b == "prc";
         }
         return false;
     }
