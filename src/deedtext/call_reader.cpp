@@ -100,6 +100,9 @@ private:
             const std::string_view w = word(k);
             if (std::find(std::begin(kBetween), std::end(kBetween), w) != std::end(kBetween))
                 continue;
+            // "to a point on a curve" names where the curve begins too
+            if (w == "on" && prevWord(k) == "point")
+                return true;
             if (w != "of")
                 return false;
             const std::string_view b = prevWord(k);
@@ -1131,6 +1134,15 @@ void CallReader::readCurve(Call &call)
     }
     if (!call.radius && m_context.pendingRadius && !degreeOfCurve)
         call.radius = m_context.pendingRadius;
+    // "along said curve": the curve of the call before, radius and all
+    if (!call.radius && !degreeOfCurve && m_context.lastCurveRadius)
+        for (size_t i = m_begin; i + 1 < m_end; ++i)
+            if (word(i) == "said" && (word(i + 1) == "curve" || word(i + 1) == "arc"))
+                call.radius = m_context.lastCurveRadius;
+    if (radialBearing && radialBearing->problem.empty())
+        call.radial = radialBearing->direction;
+    else if (!radialBearing && m_context.pendingRadial)
+        radialBearing = Found{*m_context.pendingRadial, {}, 0, 0};
     if (!chordBearing && m_context.pendingChordBearing)
         chordBearing = Found{*m_context.pendingChordBearing, {}, 0, 0};
     if (!call.chord)
@@ -1170,6 +1182,16 @@ void CallReader::readCurve(Call &call)
     if (!call.radius) {
         call.problems.push_back(degreeOfCurve ? "curve given only by its degree of curve" : "curve without a radius");
         return;
+    }
+    // A radial bearing square to the course before marks a tangent curve; any
+    // other one, without a chord bearing, a non-tangent curve that cannot be drawn.
+    if (radialBearing && !chordBearing && !nonTangent) {
+        bool square = false;
+        if (m_context.previous) {
+            const double turn = std::fmod(std::fabs(radialBearing->direction.azimuth() - m_context.previous->azimuth()), 180.0);
+            square = std::fabs(turn - 90.0) < 1.0 / 3600.0;
+        }
+        nonTangent = !square;
     }
     if (nonTangent && !chordBearing) {
         call.problems.push_back(radialBearing ? "non-tangent curve given only by a radial bearing"
@@ -1219,6 +1241,7 @@ void CallReader::readNextCurve(Call &call)
     if (next.curve) {
         call.nextChord = next.chord;
         call.nextArc = next.distance;
+        call.nextRadial = next.radial;
     }
 }
 

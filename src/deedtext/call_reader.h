@@ -58,6 +58,8 @@ struct Call {
     /// bears N 79°30' E 92.18 feet; thence along said curve 92.71 feet").
     std::optional<Direction> nextChordBearing;
     std::optional<Length> nextChord, nextArc;
+    /// "the radius point of which bears N 80° W": the bearing toward the centre.
+    std::optional<Direction> radial, nextRadial;
     std::vector<std::string> problems; ///< any problem: no course row
     std::vector<std::string> warnings; ///< the row stands, but is worth a look
     /// True when the call holds a direction or a length at all.
@@ -77,6 +79,9 @@ struct CallContext {
     char pendingSide = 0;
     std::string pendingConcave;
     std::optional<Direction> pendingChordBearing; ///< used where the curve's own call gives none
+    std::optional<Direction> pendingRadial;       ///< the bearing toward the centre, told before
+    /// Radius of the last curve, for "along said curve" without one of its own.
+    std::optional<Length> lastCurveRadius;
     std::optional<Length> pendingChord, pendingArc; ///< used where the call gives neither arc nor chord
 };
 

@@ -357,6 +357,9 @@ DeedImport parseDeedText(std::string_view text)
             context.pendingChordBearing = call.nextChordBearing;
             context.pendingChord = call.nextChord;
             context.pendingArc = call.nextArc;
+            context.pendingRadial = call.nextRadial;
+            if (call.curve && call.radius)
+                context.lastCurveRadius = call.radius;
             if (call.closes) {
                 const bool closesFigure = call.atCommencement && !call.truePoint;
                 if (!closesFigure && (mode == Mode::Commence || (call.truePoint && mode == Mode::Body && !b.tagInFigure))) {
