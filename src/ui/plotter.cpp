@@ -29,6 +29,7 @@
 #include "map_file.h"
 #include "number_format.h"
 #include "typed_number.h"
+#include "window_style.h"
 
 namespace quilmar {
 
@@ -63,6 +64,7 @@ QLabel *resultLabel(const char *name, QWidget *parent)
 Plotter::Plotter(Dialogs &dialogs, const StartupOptions &options, QWidget *parent)
     : QMainWindow(parent), m_dialogs(dialogs), m_options(options), m_engine(dialogs, engineSettings(options))
 {
+    useWindowStyle();
     setObjectName("Plotter");
     setWindowTitle(Prompter::kTitle);
     setCentralWidget(buildCentral());

@@ -31,7 +31,7 @@ constexpr long kNone = -1;
 // round, and a traverse whose ends do not meet.
 const std::vector<Stroke> &picture(int index)
 {
-    static const std::vector<Stroke> pictures[7] = {
+    static const std::vector<Stroke> pictures[9] = {
         {{Stroke::Closed, 0x1f4e99, 1.5f, kNone, {6, 17, 9, 8, 17, 9, 18, 16}},
          // a turning arrow: most of a circle about the parcel, clockwise from the right
          {Stroke::Arc, 0x2e7d32, 2.0f, kNone, {12.005f, 11.686f, 8.5f, -2.1f, -308.2f}},
@@ -60,9 +60,13 @@ const std::vector<Stroke> &picture(int index)
          {Stroke::Dot, 0, 0, 0xc62828, {8, 20, 1.4f}},
          {Stroke::Dot, 0, 0, 0xc62828, {15, 19, 1.4f}},
          {Stroke::Segments, 0xc62828, 1.2f, kNone, {9.8f, 19.7f, 13.2f, 19.3f}, true}},
+        {{Stroke::Open, 0x444444, 2.0f, kNone, {6, 6, 11, 12, 6, 18}},
+         {Stroke::Open, 0x444444, 2.0f, kNone, {13, 6, 18, 12, 13, 18}}},
+        {{Stroke::Open, 0x444444, 2.0f, kNone, {6, 6, 12, 11, 18, 6}},
+         {Stroke::Open, 0x444444, 2.0f, kNone, {6, 13, 12, 18, 18, 13}}},
     };
     static const std::vector<Stroke> none;
-    return index >= 0 && index < 7 ? pictures[index] : none;
+    return index >= 0 && index < 9 ? pictures[index] : none;
 }
 
 QPainterPath pathOf(const Stroke &s)

@@ -7,8 +7,13 @@
 
 namespace quilmar {
 
+/// The chevrons of a menu bar or toolbar too narrow for its entries.
+constexpr int kMoreRightPicture = 7;
+constexpr int kMoreDownPicture = 8;
+
 /// The picture of toolbar button @p index (0 redraw, 1 clear line, 2 clear all,
-/// 3 print map, 4 area, 5 perimeter, 6 gap). Any other index: an empty icon.
+/// 3 print map, 4 area, 5 perimeter, 6 gap) or of a chevron above. Any other
+/// index: an empty icon.
 QIcon toolbarIcon(int index);
 
 } // namespace quilmar
