@@ -61,7 +61,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     int draws = 0;
     GridRules grid(table, dialogs, [&] { ++draws; });
     // Inserting, deleting, clearing and checking the whole grid each touch
-    // every row of the table; past a few dozen of them an input only repeats
+    // every row of the table; past a handful of them an input only repeats
     // what a shorter one reached, and every execution slows.
     int wholeTableOps = 0;
     for (int steps = 0; !script.done() && steps < 4096; ++steps) {

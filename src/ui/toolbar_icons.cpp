@@ -28,7 +28,8 @@ constexpr long kNone = -1;
 
 // Each picture names what the button does: a parcel drawn again, a row or the
 // whole table crossed out, a printer with a map, a parcel filled, measured all
-// round, and a traverse whose ends do not meet.
+// round, and a traverse whose ends do not meet; then the two chevrons of a
+// bar with entries beyond its end, pointing along it.
 const std::vector<Stroke> &picture(int index)
 {
     static const std::vector<Stroke> pictures[9] = {
