@@ -11,6 +11,7 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -18,11 +19,18 @@
 #include <QTimer>
 #include <QWidget>
 
+#include "font_warm_up.h"
 #include "plotter.h"
 
 namespace {
 
 QElapsedTimer g_clock;
+
+// On standard error, the milliseconds at which each step of start-up ended.
+void phase(const char *name)
+{
+    std::fprintf(stderr, "%s %.1f ", name, double(g_clock.nsecsElapsed()) / 1e6);
+}
 
 void reportAndQuit()
 {
@@ -44,6 +52,7 @@ public:
     {
         if (event->type() == QEvent::Paint && !m_done) {
             m_done = true;
+            phase("painted");
             QTimer::singleShot(0, qApp, reportAndQuit);
         }
         return false;
@@ -77,7 +86,15 @@ int main(int argc, char **argv)
 {
     g_clock.start();
     const bool plotter = argc > 1 && std::strcmp(argv[1], "plotter") == 0;
+    // The plotter starts as the program starts it (quilmar's runWindow).
+    std::optional<quilmar::FontWarmUp> fonts;
+    if (plotter)
+        fonts.emplace();
     QApplication app(argc, argv);
+    phase("application");
+    if (fonts)
+        fonts->wait();
+    phase("fonts");
     FirstPaint watch;
     Silent dialogs;
     std::unique_ptr<QWidget> window;
@@ -90,7 +107,9 @@ int main(int argc, char **argv)
         if (argc > 1 && std::strcmp(argv[1], "label") == 0)
             new QLabel("Enter Metes and Bounds here", window.get());
     }
+    phase("built");
     window->installEventFilter(&watch);
     window->show();
+    phase("shown");
     return app.exec();
 }

@@ -5,7 +5,7 @@ set -euo pipefail
 
 PACKAGES=(
   build-essential cmake pkg-config
-  qt6-base-dev qt6-svg-dev libgl-dev
+  qt6-base-dev qt6-svg-dev libgl-dev libfontconfig-dev
   libgtest-dev libgmock-dev libbenchmark-dev libinih-dev libcli11-dev
   fonts-dejavu-core fonts-liberation2
   xvfb xauth xdotool imagemagick poppler-utils

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QFileInfo>
 
+#include "font_warm_up.h"
 #include "plotter.h"
 #include "qt_dialogs.h"
 #include "session_recovery.h"
@@ -28,9 +29,11 @@ bool offerRecovery(Plotter &window, Dialogs &dialogs, const std::string &path)
 
 int runWindow(int &argc, char **argv, const std::string &file)
 {
+    FontWarmUp fonts;
     QApplication app(argc, argv);
     QApplication::setApplicationName("quilmar");
     QtDialogs dialogs;
+    fonts.wait();
     Plotter window(dialogs, startupOptionsFor(QCoreApplication::applicationFilePath().toStdString()));
     dialogs.setParent(&window);
     window.show();

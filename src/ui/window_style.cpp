@@ -28,6 +28,10 @@ public:
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget) const override
     {
+        if (element == PE_FrameLineEdit) {
+            drawFieldFrame(option, painter);
+            return;
+        }
         if (element != PE_FrameGroupBox) {
             QProxyStyle::drawPrimitive(element, option, painter, widget);
             return;
@@ -43,6 +47,33 @@ public:
         painter->drawRoundedRect(box.adjusted(1, 1, -1, -1), 2, 2);
         painter->setPen(window.darker(140));
         painter->drawRoundedRect(box, 2.5, 2.5);
+        painter->restore();
+    }
+
+private:
+    // A text field's frame: a square line a shade darker than the window (the
+    // selection colour while the field has the focus) and a faint shadow under
+    // its top edge. Drawn without antialiasing: the window shows a hundred of
+    // these at once, and square corners line up into a grid.
+    static void drawFieldFrame(const QStyleOption *option, QPainter *painter)
+    {
+        const QRect r = option->rect.adjusted(0, 0, -1, -1);
+        const bool focus = option->state & State_HasFocus;
+        const QColor highlight = option->palette.highlight().color().darker(125);
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing, false);
+        painter->setBrush(Qt::NoBrush);
+        painter->setPen(focus ? highlight : option->palette.window().color().darker(140));
+        painter->drawRect(r);
+        if (focus) {
+            QColor soft = highlight;
+            soft.setAlpha(60);
+            painter->setPen(soft);
+            painter->drawRect(r.adjusted(1, 1, -1, -1));
+        } else {
+            painter->setPen(QColor(0, 0, 0, 18));
+            painter->drawLine(r.left() + 1, r.top() + 1, r.right() - 1, r.top() + 1);
+        }
         painter->restore();
     }
 };

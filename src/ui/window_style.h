@@ -1,10 +1,13 @@
 #pragma once
-// The window's style: the platform's own (Fusion where there is none), with the
-// two things it would otherwise read from image files at start-up drawn by the
-// program instead: the group-box frame and the chevron of a menu bar or toolbar
-// too narrow for its entries. Reading any image makes Qt load every image
-// plugin (JPEG, GIF, ICO, SVG...), which costs start-up time and memory for two
-// small pictures.
+// The window's style: the platform's own (Fusion where there is none), with
+// three things drawn by the program instead:
+// - the group-box frame and the chevron of a menu bar or toolbar too narrow for
+//   its entries, which the style would read from image files at start-up;
+//   reading any image makes Qt load every image plugin (JPEG, GIF, ICO, SVG...),
+//   start-up time and memory spent on two small pictures;
+// - the frame of a text field, square and without antialiasing: the grid shows
+//   a hundred fields at once, and rounded antialiased frames were the largest
+//   part of the window's first paint.
 
 namespace quilmar {
 
