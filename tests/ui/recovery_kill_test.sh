@@ -11,7 +11,12 @@ export XDG_DATA_HOME="$home/data"
 recovery="$home/data/quilmar/recovery.map"
 cat > "$home/session.sh" <<INNER
 set -u
-QT_QPA_PLATFORM=xcb "$quilmar" >/dev/null 2>&1 &
+# The program stops at once without a display to connect to: wait until it answers.
+for _ in \$(seq 1 300); do
+  xdotool getdisplaygeometry >/dev/null 2>&1 && break
+  sleep 0.1
+done
+QT_QPA_PLATFORM=xcb "$quilmar" >"$home/program.log" 2>&1 &
 pid=\$!
 for _ in \$(seq 1 300); do
   win=\$(xdotool search --name "Quilmar Deed Plotter" 2>/dev/null | head -n 1) && [ -n "\$win" ] && break
@@ -32,7 +37,7 @@ done
 kill -9 \$pid
 INNER
 xvfb-run -a bash "$home/session.sh"
-[ -s "$recovery" ] || { echo "no recovery file after the kill"; exit 1; }
+[ -s "$recovery" ] || { echo "no recovery file after the kill; the program said:"; cat "$home/program.log"; exit 1; }
 first=$(head -n 1 "$recovery" | tr -d '\r')
 [ "$first" = "$(printf 'N\t45\t\t\t\t123.5\t\t\t\t')" ] || { echo "the recovery file does not hold what was typed: $(printf %q "$first")"; exit 1; }
 echo "what was typed survived SIGKILL: $first"
