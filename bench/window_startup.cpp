@@ -21,6 +21,7 @@
 
 #include "font_warm_up.h"
 #include "plotter.h"
+#include "window_setup.h"
 
 namespace {
 
@@ -62,23 +63,6 @@ private:
     bool m_done = false;
 };
 
-class Silent : public quilmar::Dialogs {
-public:
-    quilmar::Answer ask(const std::string &, const std::string &, quilmar::Buttons, quilmar::Icon) override
-    {
-        return quilmar::Answer::No;
-    }
-    std::optional<std::string> inputBox(const std::string &, const std::string &, const std::string &) override
-    {
-        return std::nullopt;
-    }
-    std::optional<std::string> fileName(quilmar::FileMode, const std::string &, const std::string &) override
-    {
-        return std::nullopt;
-    }
-    bool print(const std::string &, const quilmar::Printout &) override { return false; }
-    void preview(const std::string &, const quilmar::Printout &) override {}
-};
 
 } // namespace
 
@@ -96,7 +80,7 @@ int main(int argc, char **argv)
         fonts->wait();
     phase("fonts");
     FirstPaint watch;
-    Silent dialogs;
+    quilmar::bench::QuietDialogs dialogs;
     std::unique_ptr<QWidget> window;
     if (plotter) {
         window = std::make_unique<quilmar::Plotter>(
