@@ -157,7 +157,8 @@ QPainterPath penArea(const std::vector<std::pair<QPolygonF, bool>> &lines, float
     area.setFillRule(Qt::WindingFill);
     for (const auto &[line, closed] : lines) {
         const qsizetype n = line.size();
-        for (qsizetype i = 0; i + 1 < n || (closed && i < n && n > 2); ++i) {
+        const qsizetype segments = closed && n > 2 ? n : n - 1;
+        for (qsizetype i = 0; i < segments; ++i) {
             const QPointF a = line[i];
             const QPointF b = line[(i + 1) % n];
             const QPointF d = b - a;
