@@ -20,6 +20,7 @@
 
 #include "font_warm_up.h"
 #include "plotter.h"
+#include "session_bus.h"
 #include "window_setup.h"
 
 namespace {
@@ -71,8 +72,10 @@ int main(int argc, char **argv)
     const bool plotter = argc > 1 && std::strcmp(argv[1], "plotter") == 0;
     // The plotter starts as the program starts it (quilmar's runWindow).
     std::optional<quilmar::FontWarmUp> fonts;
-    if (plotter)
+    if (plotter) {
+        quilmar::avoidBusAutolaunch();
         fonts.emplace();
+    }
     QApplication app(argc, argv);
     phase("application");
     if (fonts)

@@ -8,6 +8,7 @@
 #include "font_warm_up.h"
 #include "plotter.h"
 #include "qt_dialogs.h"
+#include "session_bus.h"
 #include "session_recovery.h"
 
 namespace quilmar {
@@ -29,6 +30,7 @@ bool offerRecovery(Plotter &window, Dialogs &dialogs, const std::string &path)
 
 int runWindow(int &argc, char **argv, const std::string &file)
 {
+    avoidBusAutolaunch();
     FontWarmUp fonts;
     QApplication app(argc, argv);
     QApplication::setApplicationName("quilmar");
