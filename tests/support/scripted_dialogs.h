@@ -48,11 +48,7 @@ public:
     Answer ask(const std::string &text, const std::string &, Buttons buttons, Icon icon) override
     {
         asked.push_back({text, buttons, icon});
-        if (answers.empty())
-            return buttons == Buttons::YesNo || buttons == Buttons::YesNoCancel ? Answer::Yes : Answer::Ok;
-        Answer a = answers.front();
-        answers.pop_front();
-        return a;
+        return take(answers, buttons == Buttons::YesNo || buttons == Buttons::YesNoCancel ? Answer::Yes : Answer::Ok);
     }
     std::optional<std::string> inputBox(const std::string &prompt, const std::string &title, const std::string &) override
     {
@@ -68,9 +64,7 @@ public:
     bool print(const std::string &jobName, const Printout &printout) override
     {
         printJobs.push_back("print " + jobName);
-        const bool ok = printAnswers.empty() || printAnswers.front();
-        if (!printAnswers.empty())
-            printAnswers.pop_front();
+        const bool ok = take(printAnswers, true);
         if (ok)
             paint(printout, copies);
         return ok;
@@ -96,11 +90,7 @@ public:
     std::optional<std::vector<PastedRow>> pasteDeedText(const std::string &text) override
     {
         pasteTexts.push_back(text);
-        if (pastes.empty())
-            return std::nullopt;
-        auto v = pastes.front();
-        pastes.pop_front();
-        return v;
+        return take(pastes);
     }
     /// The texts of the boxes shown so far; clears the record.
     std::vector<std::string> texts()
@@ -123,11 +113,12 @@ private:
         for (const std::string &call : printed.calls())
             printedPages += call == "newPage";
     }
-    static std::optional<std::string> take(std::deque<std::optional<std::string>> &q)
+    /// The next scripted answer, or @p fallback when the script has run out.
+    template <class T> static T take(std::deque<T> &q, T fallback = T{})
     {
         if (q.empty())
-            return std::nullopt;
-        auto v = q.front();
+            return fallback;
+        T v = q.front();
         q.pop_front();
         return v;
     }
