@@ -9,8 +9,8 @@ using namespace quilmar;
 
 namespace {
 
-using test::Recorder;
 using test::Row;
+using test::straight;
 using Fixture = test::DrawnEngine;
 
 // The square feet of an acres text: "0.40 acres [17,353.98 sq ft]" -> 17353.98.
@@ -25,8 +25,7 @@ double squareFeet(const std::string &text)
     return std::stod(digits);
 }
 
-const Row kBegin{"", "", "", "", "", "", "", "", "", "B"};
-Row straight(const char *ns, const char *distance) { return {ns, "", "", "", "", distance, "", "", "", ""}; }
+const Row kBegin = test::tagRow("B"), kClose = test::tagRow("C");
 
 } // namespace
 
@@ -44,6 +43,11 @@ TEST(Engine, ResultTextsOfHandWorkedTraverses)
         // Counter-clockwise the hair-breadth errors cancel exactly.
         {"square counter-clockwise", {kBegin, straight("N", "100"), straight("W", "100"), straight("S", "100"), straight("E", "100")},
          "Gap = 0", "Perimeter = 400.00", "0.23 acres [10,000.00 sq ft]", "10000 Square Meters [1.00 Ha]"},
+        // Ends 0.5 short of the start: within 1 unit the area is computed, the
+        // open remainder closing through the beginning: still 10,000. (The
+        // bearing of so short a gap is the float walk's noise: not checked.)
+        {"0.5 short", {kBegin, straight("N", "100"), straight("E", "100"), straight("S", "100"), straight("W", "99.5")},
+         nullptr, "Perimeter = 399.50", "0.23 acres [10,000.00 sq ft]", "10000 Square Meters [1.00 Ha]"},
         // Open: the end lies 100 E and 100 N of the start, so back is S 45 W over 141.42 of 200.
         {"open corner", {straight("N", "100"), straight("E", "100")}, "Gap = 141.42.  S 45° 0' W (70.71%)",
          "Perimeter = 200.00", nullptr, nullptr},
@@ -64,20 +68,22 @@ TEST(Engine, ResultTextsOfHandWorkedTraverses)
         // closed straight: trapezoid 9500 + quarter disc 7853.98; perimeter
         // 100 + 157.08 + 190 + 100.50.
         // The last course stops 10 short, so the gap is N 5 42' 38'' W over 100.50.
-        {"tangent curve", {kBegin, straight("E", "100"), {"", "", "", "", "", "157.0796", "", "100", "R", ""}, straight("W", "190"), {"", "", "", "", "", "", "", "", "", "C"}},
+        {"tangent curve", {kBegin, straight("E", "100"), {"", "", "", "", "", "157.0796", "", "100", "R", ""}, straight("W", "190"), kClose},
          "Gap = 100.50.  N 5° 42' 38'' W (18.35%)", "Perimeter = 547.58", "0.40 acres [17,353.98 sq ft]",
          "17354 Square Meters [1.74 Ha]"},
         // The same quarter circle given by its chord and bearing, then by chord and arc.
-        {"curve by chord", {kBegin, straight("E", "100"), {"S", "45", "", "", "E", "", "141.4214", "100", "R", ""}, straight("W", "190"), {"", "", "", "", "", "", "", "", "", "C"}},
+        {"curve by chord", {kBegin, straight("E", "100"), {"S", "45", "", "", "E", "", "141.4214", "100", "R", ""}, straight("W", "190"), kClose},
          "Gap = 100.50.  N 5° 42' 38'' W (18.35%)", "Perimeter = 547.58", "~17353.98", "17354 Square Meters [1.74 Ha]"},
-        {"curve by chord and arc", {kBegin, straight("E", "100"), {"S", "45", "", "", "E", "157.0796", "141.4214", "100", "R", ""}, straight("W", "190"), {"", "", "", "", "", "", "", "", "", "C"}},
+        {"curve by chord and arc", {kBegin, straight("E", "100"), {"S", "45", "", "", "E", "157.0796", "141.4214", "100", "R", ""}, straight("W", "190"), kClose},
          "Gap = 100.50.  N 5° 42' 38'' W (18.35%)", "Perimeter = 547.58", "~17353.98", "17354 Square Meters [1.74 Ha]"},
     };
     for (const Case &c : cases) {
         Fixture f{c.rows};
         EXPECT_EQ(f.engine.acresbox(), "") << c.what;
         f.engine.mnuGap_Click();
-        EXPECT_EQ(f.engine.acresbox(), c.gap) << c.what;
+        if (c.gap) {
+            EXPECT_EQ(f.engine.acresbox(), c.gap) << c.what;
+        }
         f.engine.mnuPeri_Click();
         EXPECT_EQ(f.engine.acresbox(), c.perimeter) << c.what;
         if (c.acres) {
@@ -89,7 +95,7 @@ TEST(Engine, ResultTextsOfHandWorkedTraverses)
             f.engine.mnuHectares_Click();
             EXPECT_EQ(f.engine.acresbox(), c.hectares) << c.what;
         }
-        EXPECT_TRUE(f.prompter.messages.empty()) << c.what << ": " << f.prompter.messages.front();
+        EXPECT_EQ(f.prompter.texts(), std::vector<std::string>{}) << c.what;
     }
 }
 
@@ -110,21 +116,10 @@ TEST(Engine, AreaCommandsRefuseAnOpenTraverse)
     f.engine.mnuPeri_Click();
     f.engine.mnuAcres_Click();
     f.engine.mnuHectares_Click();
-    ASSERT_EQ(f.prompter.messages.size(), 2u);
-    EXPECT_EQ(f.prompter.messages[0], "Before you can calculate the acreage, please close the gap.  Click on Calc Gap "
-                                      "button to see gap information.");
-    EXPECT_EQ(f.prompter.messages[1], "Before you can calculate the hectares, please close the 141  gap.");
+    EXPECT_EQ(f.prompter.texts(), (std::vector<std::string>{"Before you can calculate the acreage, please close the "
+                                                            "gap.  Click on Calc Gap button to see gap information.",
+                                                            "Before you can calculate the hectares, please close the 141  gap."}));
     EXPECT_EQ(f.engine.acresbox(), "Perimeter = 200.00"); // left as it was
-}
-
-TEST(Engine, AreaWithinOneUnitOfTheBeginningIsComputed)
-{
-    // Ends 0.5 short of the start: within 1 unit, so the open remainder is ignored.
-    Fixture f{kBegin, straight("N", "100"), straight("E", "100"), straight("S", "100"), straight("W", "99.5")};
-    f.engine.mnuAcres_Click();
-    EXPECT_TRUE(f.prompter.messages.empty());
-    // The open remainder closes through the beginning: still 10,000.
-    EXPECT_EQ(f.engine.acresbox(), "0.23 acres [10,000.00 sq ft]");
 }
 
 TEST(Engine, ModesAreCarriedAsTheWindowCarriesThem)
@@ -146,33 +141,32 @@ TEST(Engine, ModesAreCarriedAsTheWindowCarriesThem)
 TEST(Engine, MessagesOfABadCurveAndABadNumber)
 {
     Fixture f{{"N", "", "", "", "", "", "120", "50", "L", ""}};
-    EXPECT_EQ(f.prompter.messages, (std::vector<std::string>{"Error in calc of gap", "Error in curve."}));
+    EXPECT_EQ(f.prompter.texts(), (std::vector<std::string>{"Error in calc of gap", "Error in curve."}));
     EXPECT_EQ(f.engine.lastDraw().error, "Error in curve.");
 
     // A bearing beyond single range faults the conversion itself.
     Fixture g{{"N", "1e39", "", "", "E", "100", "", "", "", ""}};
-    EXPECT_EQ(g.prompter.messages, (std::vector<std::string>{"6.  Error drawing map (mindraw)"}));
+    EXPECT_EQ(g.prompter.texts(), (std::vector<std::string>{"6.  Error drawing map (mindraw)"}));
 
     // A distance beyond single range first fails the fit, then the walk, and the
     // area texts then divide 0 by a scale factor that never got set.
     Fixture h{{"N", "", "", "", "E", "1e39", "", "", "", ""}};
-    EXPECT_EQ(h.prompter.messages, (std::vector<std::string>{"Error in rescaling", "Error in drawing map (drawmap)",
-                                                             "6.  Error drawing map (mindraw)"}));
+    EXPECT_EQ(h.prompter.texts(), (std::vector<std::string>{"Error in rescaling", "Error in drawing map (drawmap)",
+                                                            "6.  Error drawing map (mindraw)"}));
 }
 
 TEST(Engine, ZeroCanvasFaultsAreReportedNotCrashed)
 {
-    Recorder prompter;
+    ScriptedDialogs prompter;
     Engine engine(prompter);
     engine.setCanvasSize(0, 0);
     engine.editTable().at(0, ColNS) = "N";
     engine.editTable().at(0, ColDistance) = "100";
     engine.redraw();
-    EXPECT_EQ(prompter.messages,
+    EXPECT_EQ(prompter.texts(),
               (std::vector<std::string>{"Error in drawing map (drawmap)", "6.  Error drawing map (mindraw)"}));
-    prompter.messages.clear();
     engine.mnuGap_Click();
-    EXPECT_EQ(prompter.messages.back(), "Overflow");
+    EXPECT_EQ(prompter.texts().back(), "Overflow");
 }
 
 TEST(Engine, FigureMarksTheBeginningAndTheEnd)
@@ -199,14 +193,14 @@ TEST(Engine, FigureMarksTheBeginningAndTheEnd)
 // that turns every later course, a redraw must match a fresh engine's draw.
 TEST(Engine, RedrawAfterAnEditMatchesAFreshDraw)
 {
-    const std::initializer_list<Row> before{kBegin, {"N", "30", "", "", "E", "100", "", "", "", ""},
-                                            {"+", "40", "", "", "", "80", "", "", "", ""},
-                                            {"", "", "", "", "", "60", "", "50", "R", ""}, straight("S", "50")};
-    Fixture edited{before};
+    const auto rows = [](const char *deg) {
+        return std::vector<Row>{kBegin, {"N", deg, "", "", "E", "100", "", "", "", ""}, {"+", "40", "", "", "", "80", "", "", "", ""},
+                                {"", "", "", "", "", "60", "", "50", "R", ""}, straight("S", "50")};
+    };
+    Fixture edited{rows("30")};
     edited.engine.editTable().at(1, ColDeg) = Cell(std::string("35"));
     edited.engine.redraw();
-    Fixture fresh{kBegin, {"N", "35", "", "", "E", "100", "", "", "", ""}, {"+", "40", "", "", "", "80", "", "", "", ""},
-                  {"", "", "", "", "", "60", "", "50", "R", ""}, straight("S", "50")};
+    Fixture fresh{rows("35")};
     EXPECT_EQ(edited.engine.state().pen, fresh.engine.state().pen);
     EXPECT_EQ(edited.engine.figure().items.size(), fresh.engine.figure().items.size());
     EXPECT_EQ(edited.engine.canvasView().scaleLeft, fresh.engine.canvasView().scaleLeft);

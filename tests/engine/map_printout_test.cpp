@@ -15,19 +15,16 @@ using namespace quilmar;
 namespace {
 
 using test::Row;
+using test::straight;
 
 // Printed with "Lot 7" as the heading.
-struct Printout : test::DrawnEngine {
-    Printout(std::initializer_list<Row> rows, const char *scale = "Standard") : DrawnEngine(rows, scale, "Lot 7") {}
+struct Printed : test::DrawnEngine {
+    Printed(std::initializer_list<Row> rows, const char *scale = "Standard") : DrawnEngine(rows, scale, "Lot 7") {}
 };
 
 // N 100, E 100, S 100, W 90: a square that misses its start by 10 feet.
-const std::initializer_list<Row> kOpenSquare{
-    {"N", "", "", "", "", "100", "", "", "", ""},
-    {"E", "", "", "", "", "100", "", "", "", ""},
-    {"S", "", "", "", "", "100", "", "", "", ""},
-    {"W", "", "", "", "", "90", "", "", "", ""},
-};
+const std::initializer_list<Row> kOpenSquare{straight("N", "100"), straight("E", "100"), straight("S", "100"),
+                                              straight("W", "90")};
 
 struct Line {
     double x1, y1, x2, y2;
@@ -64,7 +61,7 @@ std::vector<Line> mapLines(const RecordingSurface &s)
 TEST(MapPrintout, BalancedGapClosesThePrintedFigure)
 {
     for (const bool balance : {false, true}) {
-        Printout p(kOpenSquare);
+        Printed p(kOpenSquare);
         PrintOptions options = p.engine.printOptions();
         options.balanceGap = balance ? 1 : 0;
         p.engine.setPrintOptions(options);
@@ -85,36 +82,33 @@ TEST(MapPrintout, BalancedGapClosesThePrintedFigure)
 
 TEST(MapPrintout, CaptionTellsThePrintedScale)
 {
-    Printout p(kOpenSquare);
-    RecordingSurface page;
-    printMapPage(p.engine, page, kLetterPage);
-    const std::vector<std::string> captions = test::callsContaining(page, "Scale = 1: ");
-    ASSERT_EQ(captions.size(), 1u);
-    ASSERT_NE(captions[0].find(" (Feet)"), std::string::npos) << captions[0];
-    const double n = std::stod(captions[0].substr(captions[0].find("1: ") + 3));
-    // 1 inch = n feet: a 100-foot side is 144000 / n twips long on paper.
-    const std::vector<Line> lines = mapLines(page);
-    const double side = std::fabs(lines[0].y2 - lines[0].y1);
-    EXPECT_NEAR(n, 144000.0 / side, 0.5 + n * 0.002);
-}
-
-TEST(MapPrintout, NumericScaleDrawsAtItsFactor)
-{
-    Printout p(kOpenSquare, "1000:1");
-    RecordingSurface page;
-    printMapPage(p.engine, page, kLetterPage);
-    EXPECT_EQ(test::callsContaining(page, "Scale = 1:1000 (Feet)").size(), 1u);
-    EXPECT_FLOAT_EQ(p.engine.scaleFactor(), 1.44f);
-    // the printed figure stays centred in the map area
-    const std::vector<Line> lines = mapLines(page);
-    EXPECT_NEAR(std::fabs(lines[0].y2 - lines[0].y1), 144.0, 0.01);
+    // factor 0: fitted to the page; a numeric scale draws at its own factor.
+    const struct {
+        const char *scale, *caption;
+        float factor;
+    } cases[] = {{"Standard", "Scale = 1: ", 0.0f}, {"1000:1", "Scale = 1:1000 (Feet)", 1.44f}};
+    for (const auto &c : cases) {
+        Printed p(kOpenSquare, c.scale);
+        RecordingSurface page;
+        printMapPage(p.engine, page, kLetterPage);
+        const std::vector<std::string> captions = test::callsContaining(page, c.caption);
+        ASSERT_EQ(captions.size(), 1u) << c.scale;
+        ASSERT_NE(captions[0].find(" (Feet)"), std::string::npos) << captions[0];
+        const double n = std::stod(captions[0].substr(captions[0].find("1:") + 2));
+        // 1 inch = n feet: a 100-foot side is 144000 / n twips long on paper.
+        const std::vector<Line> lines = mapLines(page);
+        EXPECT_NEAR(n, 144000.0 / std::fabs(lines[0].y2 - lines[0].y1), c.factor ? n * 1e-4 : 0.5 + n * 0.002) << c.scale;
+        if (c.factor) {
+            EXPECT_FLOAT_EQ(p.engine.scaleFactor(), c.factor);
+        }
+    }
 }
 
 TEST(MapPrintout, MapLandsInsideTheMarginsBelowTheCaption)
 {
     for (const PageSize size : {kLetterPage, kA4Page}) {
         for (const char *scale : {"Minimum", "Standard", "Maximum"}) {
-            Printout p(kOpenSquare, scale);
+            Printed p(kOpenSquare, scale);
             RecordingSurface probe;
             MapPageText text;
             text.description = text.referenceList = true;
@@ -139,7 +133,7 @@ TEST(MapPrintout, MapLandsInsideTheMarginsBelowTheCaption)
 TEST(MapPrintout, ReferenceLabelsFollowTheOption)
 {
     for (const int16_t on : {int16_t(0), int16_t(1)}) {
-        Printout p(kOpenSquare);
+        Printed p(kOpenSquare);
         PrintOptions options = p.engine.printOptions();
         options.referencePoints = on;
         p.engine.setPrintOptions(options);
@@ -152,7 +146,7 @@ TEST(MapPrintout, ReferenceLabelsFollowTheOption)
 
 TEST(MapPrintout, CopiesRepeatThePageAndStateIsPutBack)
 {
-    Printout p(kOpenSquare);
+    Printed p(kOpenSquare);
     PrintOptions options = p.engine.printOptions();
     options.referenceList = 0;
     p.engine.setPrintOptions(options);
@@ -171,16 +165,13 @@ TEST(MapPrintout, CopiesRepeatThePageAndStateIsPutBack)
 
 TEST(MapPrintout, ReferenceListHasLabelsAndNewRows)
 {
-    Printout p({{"N", "", "", "", "", "100", "", "", "", ""},
-                {"", "", "", "", "", "", "", "", "", "N"},
-                {"E", "", "", "", "", "50", "", "", "", ""}});
-    const std::vector<std::string> expected{"1  N 100", "New", "2  E 50"};
-    EXPECT_EQ(referenceListEntries(p.engine), expected);
+    Printed p({straight("N", "100"), test::tagRow("N"), straight("E", "50")});
+    EXPECT_EQ(referenceListEntries(p.engine), (std::vector<std::string>{"1  N 100", "New", "2  E 50"}));
 }
 
 TEST(DataPrintout, FixedPitchListingEndsWithEndAndPutsTheFontBack)
 {
-    Printout p(kOpenSquare);
+    Printed p(kOpenSquare);
     RecordingSurface page;
     printDataPages(p.engine, page, kLetterPage);
     const std::vector<std::string> &calls = page.calls();
@@ -192,7 +183,7 @@ TEST(DataPrintout, FixedPitchListingEndsWithEndAndPutsTheFontBack)
 
 TEST(CopyMap, DrawsOnTheDoubledCanvasAndRestoresIt)
 {
-    Printout p(kOpenSquare);
+    Printed p(kOpenSquare);
     const float factor = p.engine.scaleFactor();
     const CanvasDraw draw = drawDoubleSize(p.engine);
     EXPECT_FLOAT_EQ(draw.view.width, 14400.0f);
