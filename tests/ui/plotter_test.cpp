@@ -177,7 +177,7 @@ TEST_F(Window, CloseAsksOnlyAboutTheTopRow)
 {
     click(field(4, 1));
     type("n");
-    w->close();
+    w->Toolbar_Click(7); // button 7 is Exit
     EXPECT_TRUE(dialogs.asked.empty());
     EXPECT_FALSE(w->isVisible());
 

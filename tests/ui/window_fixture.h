@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QScrollBar>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -20,6 +21,7 @@
 #include "plotter.h"
 #include "recorded_calls.h"
 #include "scripted_dialogs.h"
+#include "table_builder.h"
 #include "temp_folder.h"
 
 namespace quilmar::test {
@@ -69,6 +71,21 @@ protected:
     }
     void closeTagMenu() { w->grid().tagMenu()->hide(); }
     std::string cell(int row, int column) { return w->engine().table().at(row, column).text(); }
+    /// Puts @p table into the engine and shows it in the grid, as opening a file does.
+    void load(const CourseTable &table)
+    {
+        w->engine().editTable() = table;
+        w->grid().rules().populatefields();
+        w->grid().sync();
+    }
+    /// Every visible field shows what the table holds.
+    void expectGridShowsTable()
+    {
+        const int top = w->grid().scrollBar()->value();
+        for (int r = 0; r < GridRules::kVisibleRows; ++r)
+            for (int c = 1; c <= CourseTable::kColumns; ++c)
+                ASSERT_EQ(field(r, c)->text().toStdString(), cell(top + r, c)) << "row " << r << ", column " << c;
+    }
     std::string acres() { return child<QLabel>("Acresbox")->text().toStdString(); }
     std::string clipboard() { return QApplication::clipboard()->text().toStdString(); }
     /// Whether any call of the last printout carries @p needle.
