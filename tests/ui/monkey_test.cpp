@@ -8,36 +8,23 @@
 // the plain build; the README documents the long runs), QUILMAR_MONKEY_SEED
 // the seed.
 
-#include <unistd.h>
-
 #include <cstdlib>
-#include <filesystem>
 #include <map>
 #include <random>
-#include <string>
 #include <string_view>
-#include <vector>
 
-#include <QAction>
-#include <QApplication>
 #include <QComboBox>
-#include <QLineEdit>
-#include <QMenu>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScrollBar>
-#include <QTest>
-#include <gtest/gtest.h>
 
-#include "entry_grid.h"
-#include "plotter.h"
-#include "scripted_dialogs.h"
+#include "window_fixture.h"
 
 using namespace quilmar;
 namespace fs = std::filesystem;
 
 namespace {
+
+class Monkey : public test::WindowTest {};
 
 long envNumber(const char *name, long fallback)
 {
@@ -66,21 +53,13 @@ std::string history(const std::vector<std::string> &log)
 
 } // namespace
 
-TEST(Monkey, RandomSessionKeepsTheGridAndTheTableTogether)
+TEST_F(Monkey, RandomSessionKeepsTheGridAndTheTableTogether)
 {
     const long events = envNumber("QUILMAR_MONKEY_EVENTS", 60000);
     const auto seed = static_cast<unsigned>(envNumber("QUILMAR_MONKEY_SEED", 20261123));
     std::mt19937 random(seed);
     auto pick = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
-
-    const fs::path dir = fs::temp_directory_path() / ("quilmar_monkey_" + std::to_string(::getpid()));
-    fs::create_directories(dir);
-    ScriptedDialogs dialogs;
-    Plotter w(dialogs, startupOptionsIn(dir.string(), "quilmar", true));
-    w.resize(1100, 700);
-    w.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&w));
-    EntryGrid &grid = w.grid();
+    EntryGrid &grid = w->grid();
 
     std::vector<std::string> log; // the last events, to say how a failure came about
     // Fields whose text the rules changed without storing it: it reaches the
@@ -125,16 +104,16 @@ TEST(Monkey, RandomSessionKeepsTheGridAndTheTableTogether)
                 const auto open = fs::exists(chosen) ? std::optional<std::string>(chosen.string()) : std::nullopt;
                 dialogs.files.assign({open, open}); // the save question's Save As may take the first
             }
-            if (auto *a = w.findChild<QAction *>(name); a && a->isVisible() && a->isEnabled())
+            if (auto *a = w->findChild<QAction *>(name); a && a->isVisible() && a->isEnabled())
                 a->trigger();
         } else if (kind < 94) {
-            if (auto *b = w.findChild<QPushButton *>(pick(2) ? "CommandInsert" : "CommandDelete"))
+            if (auto *b = w->findChild<QPushButton *>(pick(2) ? "CommandInsert" : "CommandDelete"))
                 QTest::mouseClick(b, Qt::LeftButton);
         } else if (kind < 97) {
-            if (auto *r = w.findChild<QRadioButton *>(QString("metrix_%1").arg(pick(3))))
+            if (auto *r = w->findChild<QRadioButton *>(QString("metrix_%1").arg(pick(3))))
                 QTest::mouseClick(r, Qt::LeftButton);
         } else {
-            if (auto *s = w.findChild<QComboBox *>("Scalebox"); s && s->count() > 1)
+            if (auto *s = w->findChild<QComboBox *>("Scalebox"); s && s->count() > 1)
                 s->setCurrentIndex(pick(s->count() - 1)); // not "Custom": it asks through an input box
         }
         if (QMenu *tags = grid.tagMenu(); tags && tags->isVisible()) {
@@ -177,7 +156,7 @@ TEST(Monkey, RandomSessionKeepsTheGridAndTheTableTogether)
             for (int c = 1; c <= CourseTable::kColumns; ++c) {
                 QLineEdit *field = grid.field({r, c});
                 const std::string shown = field->text().toStdString();
-                const std::string held = cellText(w.engine().table().at(scroll + r, c));
+                const std::string held = cellText(w->engine().table().at(scroll + r, c));
                 if (editing == FieldRef{r, c})
                     continue;
                 if (chordCorrected && c == ColChord && shown != held)
@@ -194,27 +173,21 @@ TEST(Monkey, RandomSessionKeepsTheGridAndTheTableTogether)
             }
         }
     }
-    fs::remove_all(dir);
 }
 
 // A click into another row while the current row fails its row check and the
 // field reached fails its own check when the focus is sent away again: the two
 // checks once sent the focus to and fro until the stack ran out. The focus now
 // settles, on a field the rules count as focused.
-TEST(Monkey, TwoFailingChecksDoNotSendTheFocusToAndFro)
+TEST_F(Monkey, TwoFailingChecksDoNotSendTheFocusToAndFro)
 {
     const struct {
         const char *invalid; // text of the clicked field, which fails when left
         int column;          // its column, in row 3
     } cases[] = {{"3+927", ColMin}, {"5x", ColDistance}, {"95", ColDeg}};
-    const fs::path dir = fs::temp_directory_path() / ("quilmar_focus_" + std::to_string(::getpid()));
-    fs::create_directories(dir);
     for (const auto &c : cases) {
-        ScriptedDialogs dialogs;
-        Plotter w(dialogs, startupOptionsIn(dir.string(), "quilmar", true));
-        w.show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&w));
-        EntryGrid &grid = w.grid();
+        start(true);
+        EntryGrid &grid = w->grid();
         QTest::mouseClick(grid.field({2, ColEW}), Qt::LeftButton);
         // Row 2: a curve whose chord is longer than its diameter.
         for (auto [column, text] : {std::pair{ColNS, "N"}, {ColMin, "2"}, {ColEW, "W"}, {ColChord, "8"},
@@ -232,5 +205,4 @@ TEST(Monkey, TwoFailingChecksDoNotSendTheFocusToAndFro)
         EXPECT_LE(boxes.size(), 3u) << c.invalid;
         EXPECT_EQ(boxes.front(), " Chord is too long for given radius") << c.invalid;
     }
-    fs::remove_all(dir);
 }
