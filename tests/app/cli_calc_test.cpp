@@ -55,14 +55,12 @@ TEST(CliCalc, UsageErrors)
 
 class CliConvert : public ::testing::Test {
 protected:
-    test::TempFolder m_folder;
-    std::string file(const std::string &name) { return m_folder.file(name); }
-    std::string write(const std::string &name, const std::string &bytes) { return m_folder.write(name, bytes); }
+    test::TempFolder folder;
 };
 
 TEST_F(CliConvert, MetersToFeetSelectsFeet)
 {
-    const std::string in = write("in.map", "S\t\t\t\t\t100\t\t\t\tB\r\nN\t45\t\t\tE\t50\t\t20\t\t\r\n"
+    const std::string in = folder.write("in.map", "S\t\t\t\t\t100\t\t\t\tB\r\nN\t45\t\t\tE\t50\t\t20\t\t\r\n"
                                            "~Lot 7\r\n*spec=1Standard\r\n");
     const CommandRun r = runCli("convert", {"meters", in});
     ASSERT_EQ(r.status, 0) << r.err;
@@ -74,26 +72,26 @@ TEST_F(CliConvert, MetersToFeetSelectsFeet)
 
 TEST_F(CliConvert, FeetToMetersIntoAFile)
 {
-    const std::string in = write("in.map", "S\t\t\t\t\t328.1\t\t\t\t\r\n~\r\n*spec=0Standard\r\n");
-    const CommandRun r = runCli("convert", {"feet", in, "-o", file("out.map")});
+    const std::string in = folder.write("in.map", "S\t\t\t\t\t328.1\t\t\t\t\r\n~\r\n*spec=0Standard\r\n");
+    const CommandRun r = runCli("convert", {"feet", in, "-o", folder.file("out.map")});
     ASSERT_EQ(r.status, 0) << r.err;
     EXPECT_EQ(r.out, "");
-    const std::string bytes = test::fileBytes(file("out.map"));
+    const std::string bytes = test::fileBytes(folder.file("out.map"));
     EXPECT_EQ(bytes.rfind("S\t\t\t\t\t100\t", 0), 0u); // 328.1 / 3.281
     EXPECT_NE(bytes.find("*spec=1Standard\r\n"), std::string::npos);
 }
 
 TEST_F(CliConvert, FailuresWriteNothing)
 {
-    const std::string bad = write("bad.map", "S\t\t\t\t\t12abc\t\t\t\t\r\n~\r\n*spec=0Standard\r\n");
-    CommandRun r = runCli("convert", {"chains", bad, "-o", file("out.map")});
+    const std::string bad = folder.write("bad.map", "S\t\t\t\t\t12abc\t\t\t\t\r\n~\r\n*spec=0Standard\r\n");
+    CommandRun r = runCli("convert", {"chains", bad, "-o", folder.file("out.map")});
     EXPECT_EQ(r.status, 2);
     EXPECT_EQ(r.err, "quilmar convert: Type mismatch\n");
-    EXPECT_FALSE(std::filesystem::exists(file("out.map")));
+    EXPECT_FALSE(std::filesystem::exists(folder.file("out.map")));
 
     EXPECT_EQ(runCli("convert", {"meters"}).status, 1);
     EXPECT_EQ(runCli("convert", {"parsecs", bad}).status, 1);
-    r = runCli("convert", {"meters", file("none.map")});
+    r = runCli("convert", {"meters", folder.file("none.map")});
     EXPECT_EQ(r.status, 1);
     EXPECT_NE(r.err.find("not found"), std::string::npos);
 }
