@@ -12,35 +12,28 @@ namespace {
 using test::CommandRun;
 using test::runCli;
 
-TEST(CliCalc, PlainOutput)
+TEST(CliCalc, PlainAndJsonOutput)
 {
-    EXPECT_EQ(runCli("calc", {"meters2feet", "-2"}).out, "-2 Meters = -6.562 Feet\n"); // a negative answer is no option
-
-    CommandRun r = runCli("calc", {"arc", "100 49"});
-    EXPECT_EQ(r.status, 2);
-    EXPECT_EQ(r.out, "");
-    EXPECT_EQ(r.err, "Chord cannot be longer than 2 x radius\n");
-
-    for (const char *answer : {"", "   ", "abc"}) {
-        r = runCli("calc", {"rods", answer});
-        EXPECT_EQ(r.status, 0) << answer;
-        EXPECT_EQ(r.out + r.err, "") << answer;
+    const struct {
+        Args args;
+        int status;
+        const char *out, *err;
+    } cases[] = {
+        {{"meters2feet", "-2"}, 0, "-2 Meters = -6.562 Feet\n", ""}, // a negative answer is no option
+        {{"arc", "100 49"}, 2, "", "Chord cannot be longer than 2 x radius\n"},
+        {{"rods", ""}, 0, "", ""}, {{"rods", "   "}, 0, "", ""}, {{"rods", "abc"}, 0, "", ""},
+        // half circle: 50 x 3.14159265 = 157.0796325
+        {{"--json", "arc", "100 50"}, 0, "{\"acresbox\":\"Arc Length  = 157.0796\",\"clipboard\":\"157.0796\",\"messages\":[]}\n", ""},
+        // degree sign in UTF-8, no clipboard
+        {{"--json", "angle", "100 100"}, 0, "{\"acresbox\":\"Angle = 57\u00B0 17' 44.809''\",\"clipboard\":null,\"messages\":[]}\n", ""},
+        {{"--json", "reciprocal", "91 0 0"}, 2, "{\"acresbox\":null,\"clipboard\":null,\"messages\":[\"Incorrect Input\"]}\n", ""},
+    };
+    for (const auto &c : cases) {
+        const CommandRun r = runCli("calc", c.args);
+        EXPECT_EQ(r.status, c.status) << c.args.back();
+        EXPECT_EQ(r.out, c.out) << c.args.back();
+        EXPECT_EQ(r.err, c.err) << c.args.back();
     }
-}
-
-TEST(CliCalc, Json)
-{
-    CommandRun r = runCli("calc", {"--json", "arc", "100 50"}); // half circle: 50 x 3.14159265 = 157.0796325
-    EXPECT_EQ(r.status, 0);
-    EXPECT_EQ(r.out, "{\"acresbox\":\"Arc Length  = 157.0796\",\"clipboard\":\"157.0796\",\"messages\":[]}\n");
-
-    r = runCli("calc", {"--json", "angle", "100 100"}); // degree sign in UTF-8, no clipboard
-    EXPECT_EQ(r.out, "{\"acresbox\":\"Angle = 57\u00B0 17' 44.809''\",\"clipboard\":null,\"messages\":[]}\n");
-
-    r = runCli("calc", {"--json", "reciprocal", "91 0 0"});
-    EXPECT_EQ(r.status, 2);
-    EXPECT_EQ(r.out, "{\"acresbox\":null,\"clipboard\":null,\"messages\":[\"Incorrect Input\"]}\n");
-    EXPECT_EQ(r.err, "");
 }
 
 TEST(CliCalc, UsageErrors)
