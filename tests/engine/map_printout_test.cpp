@@ -58,25 +58,30 @@ std::vector<Line> mapLines(const RecordingSurface &s)
 
 } // namespace
 
-TEST(MapPrintout, BalancedGapClosesThePrintedFigure)
+// Each option alone, from the defaults (reference points on, balance gap off).
+TEST(MapPrintout, ReferenceLabelsAndBalancedGapFollowTheirOptions)
 {
-    for (const bool balance : {false, true}) {
+    const struct {
+        int16_t PrintOptions::*option;
+        int16_t value;
+        std::size_t labels;
+        bool closed;
+    } cases[] = {{&PrintOptions::balanceGap, 0, 4, false}, {&PrintOptions::balanceGap, 1, 4, true},
+                 {&PrintOptions::referencePoints, 0, 0, false}};
+    for (const auto &c : cases) {
         Printed p(kOpenSquare);
         PrintOptions options = p.engine.printOptions();
-        options.balanceGap = balance ? 1 : 0;
+        options.*c.option = c.value;
         p.engine.setPrintOptions(options);
         RecordingSurface page;
         EXPECT_EQ(printMapPage(p.engine, page, kLetterPage), "");
+        // the four legs' labels "1 " to "4 ", each left of its leg's start
+        EXPECT_EQ(test::callsContaining(page, "#000080 text").size(), c.labels);
         const std::vector<Line> lines = mapLines(page);
         ASSERT_EQ(lines.size(), 4u);
-        const double missX = lines.back().x2 - lines.front().x1, missY = lines.back().y2 - lines.front().y1;
-        if (balance) {
-            EXPECT_NEAR(missX, 0.0, 0.05);
-            EXPECT_NEAR(missY, 0.0, 0.05);
-        } else {
-            // 10 feet at the printed factor
-            EXPECT_NEAR(missX, 10.0 * p.engine.scaleFactor(), 0.05);
-        }
+        // open, the figure misses its start by 10 feet at the printed factor
+        EXPECT_NEAR(lines.back().x2 - lines.front().x1, c.closed ? 0.0 : 10.0 * p.engine.scaleFactor(), 0.05);
+        EXPECT_NEAR(lines.back().y2 - lines.front().y1, 0.0, 0.05);
     }
 }
 
@@ -127,20 +132,6 @@ TEST(MapPrintout, MapLandsInsideTheMarginsBelowTheCaption)
                 }
             }
         }
-    }
-}
-
-TEST(MapPrintout, ReferenceLabelsFollowTheOption)
-{
-    for (const int16_t on : {int16_t(0), int16_t(1)}) {
-        Printed p(kOpenSquare);
-        PrintOptions options = p.engine.printOptions();
-        options.referencePoints = on;
-        p.engine.setPrintOptions(options);
-        RecordingSurface page;
-        printMapPage(p.engine, page, kLetterPage);
-        // the four legs' labels "1 " to "4 ", each left of its leg's start
-        EXPECT_EQ(test::callsContaining(page, "#000080 text").size(), on ? 4u : 0u);
     }
 }
 
