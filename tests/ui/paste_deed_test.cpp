@@ -27,8 +27,7 @@ TEST(Utf16Offset, CountsUnitsNotBytes)
 {
     const struct {
         const char *text;
-        std::size_t byte;
-        std::size_t units;
+        std::size_t byte, units;
     } cases[] = {
         {"N 30 W", 4, 4},
         {"30½° W", 6, 4},          // ½ and ° are two bytes each
