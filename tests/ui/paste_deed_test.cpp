@@ -132,28 +132,21 @@ TEST(PasteDeedDialog, InsertReturnsRowsCancelReturnsNothing)
 
 class PasteCommand : public test::WindowTest {};
 
-TEST_F(PasteCommand, OpensTheDialogOnTheClipboardAndItsCancelChangesNothing)
-{
-    QApplication::clipboard()->setText(kDeed);
-    trigger("mnuPasteDeed");
-    EXPECT_EQ(dialogs.pasteTexts, std::vector<std::string>{kDeed.toStdString()});
-    EXPECT_TRUE(cell(0, ColNS).empty());
-    EXPECT_FALSE(w->engine().mapComputed());
-    EXPECT_TRUE(dialogs.asked.empty());
-}
-
+// The command opens the dialog on the clipboard's text and pastes what it returns.
 TEST_F(PasteCommand, IntoTheGridAtTheFocusedRowWithEachAnswer)
 {
     struct {
+        bool dialogCancels;
         std::optional<Answer> answer; // none: row 2 is empty, nothing asked
         const char *row2NS;           // table row 2 afterwards
         const char *row7NS;           // where the old row 2 went on No
         bool drawn;
     } cases[] = {
-        {{}, "N", "", true},
-        {Answer::Yes, "N", "", true},
-        {Answer::No, "N", "S", true},
-        {Answer::Cancel, "S", "", false},
+        {true, {}, "", "", false},
+        {false, {}, "N", "", true},
+        {false, Answer::Yes, "N", "", true},
+        {false, Answer::No, "N", "S", true},
+        {false, Answer::Cancel, "S", "", false},
     };
     for (const auto &c : cases) {
         start(true);
@@ -166,19 +159,24 @@ TEST_F(PasteCommand, IntoTheGridAtTheFocusedRowWithEachAnswer)
         load(table);
         field(2, ColDeg)->setFocus();
         QApplication::processEvents();
-        dialogs.pastes.push_back(std::vector<PastedRow>{
-            {"N", "0", "0", "0", "E", "100", "", "", "", ""}, {"E", "", "", "", "", "100", "", "", "", ""},
-            {"S", "0", "0", "0", "E", "100", "", "", "", ""}, {"W", "", "", "", "", "100", "", "", "", ""},
-            {"", "", "", "", "", "", "", "", "", "C"}});
+        if (!c.dialogCancels) {
+            dialogs.pastes.push_back(std::vector<PastedRow>{
+                {"N", "0", "0", "0", "E", "100", "", "", "", ""}, {"E", "", "", "", "", "100", "", "", "", ""},
+                {"S", "0", "0", "0", "E", "100", "", "", "", ""}, {"W", "", "", "", "", "100", "", "", "", ""},
+                {"", "", "", "", "", "", "", "", "", "C"}});
+        }
+        QApplication::clipboard()->setText(kDeed);
         trigger("mnuPasteDeed");
+        EXPECT_EQ(dialogs.pasteTexts.back(), kDeed.toStdString());
+        EXPECT_EQ(dialogs.texts().size(), c.answer ? 1u : 0u);
         EXPECT_EQ(cell(2, ColNS), c.row2NS);
         EXPECT_EQ(cell(7, ColNS), c.row7NS);
         EXPECT_EQ(w->engine().mapComputed(), c.drawn);
         EXPECT_EQ(!w->findChild<MapCanvas *>()->isBlank(), c.drawn);
         expectGridShowsTable();
-        if (c.drawn)
+        if (c.drawn) {
             EXPECT_EQ(cell(6, ColTag), "C");
-        dialogs.answers.clear();
+        }
     }
 }
 
