@@ -173,13 +173,11 @@ TEST_F(Grid, ChordCorrectionQuestion)
         GridOutcome out;
         EXPECT_TRUE(rules.test_all(0, out));
         ASSERT_EQ(dialogs.asked.size(), 1u);
-        EXPECT_EQ(dialogs.asked[0].text,
-                  "Chord is incorrect based on radius and distance given.  Correct chord is 95.89.  If you press "
-                  "'Yes' then your input will be substituted with correct value, otherwise the chord value will be "
-                  "deleted.");
         EXPECT_EQ(dialogs.asked[0].buttons, Buttons::YesNo);
+        EXPECT_EQ(dialogs.texts()[0], "Chord is incorrect based on radius and distance given.  Correct chord is 95.89.  If "
+                                      "you press 'Yes' then your input will be substituted with correct value, otherwise "
+                                      "the chord value will be deleted.");
         EXPECT_EQ(rules.text({0, ColChord}), a == Answer::Yes ? "95.89" : "");
-        dialogs.asked.clear();
     }
 }
 
