@@ -17,11 +17,7 @@
 using namespace quilmar;
 namespace fs = std::filesystem;
 
-namespace {
-
-class Window : public test::WindowTest {};
-
-} // namespace
+using Window = test::WindowTest;
 
 TEST_F(Window, StartsWithTheScaleListUnitsAndNames)
 {
