@@ -52,13 +52,9 @@ Walked corner(test::Row close)
 } // namespace
 
 // Chord from arc and arc from chord are checked through the course conversion.
-TEST(Curves, PerimeterArcOfAQuarterCircle)
+TEST(Curves, QuarterCircleCentreLiesOnTheSideOfTheBend)
 {
     EXPECT_NEAR(perimeterArc(100.0f, 141.42136f), 157.0796, 1e-3);
-}
-
-TEST(Curves, LeftCurveCentreLiesLeftOfTheChord)
-{
     // Chord of 141.42 heading south-east (45 degrees) on radius 100: a quarter
     // circle. Bending left its centre is north-east of the start, at (100, 0).
     for (bool right : {false, true}) {
@@ -79,10 +75,7 @@ TEST(Curves, LeftCurveCentreLiesLeftOfTheChord)
             sweep += 2 * M_PI;
         EXPECT_NEAR(sweep, M_PI / 2, 1e-5);
     }
-}
-
-TEST(Curves, RadiusShorterThanHalfTheChordFails)
-{
+    // A radius shorter than half the chord fails and leaves the pen.
     PointF pen{5, 5};
     EXPECT_EQ(traceCurve(false, pen, ChordDirection::of(0.0), 50.0f, 120.0f, CurveSink{}), CurveOutcome::Fault);
     EXPECT_EQ(pen, (PointF{5, 5}));
@@ -154,23 +147,17 @@ TEST(Walk, CurvedCloseAndCannotClose)
     }
 }
 
-TEST(Walk, CurveThatCannotSpanItsChordStopsTheWalk)
-{
-    Walked w = walk(makeTable({
-        {"N", "", "", "", "", "", "120", "50", "L", ""},
-        {"E", "", "", "", "", "100", "", "", "", ""},
-    }));
-    EXPECT_EQ(w.stop, WalkStop::CurveFault);
-    EXPECT_TRUE(itemsOf<FigLine>(w.figure).empty());
-}
-
-TEST(Walk, HalfCircleByChordIsDrawn)
+TEST(Walk, HalfCircleByChordIsDrawnAndAShorterRadiusStopsTheWalk)
 {
     // Chord exactly twice the radius: drawn as a half circle, not rejected.
     Walked w = walk(makeTable({{"E", "", "", "", "", "", "200", "100", "R", ""}}));
     EXPECT_EQ(w.stop, WalkStop::None);
     EXPECT_NEAR(w.state.pen.x, 200.0f, 1e-3);
     EXPECT_EQ(itemsOf<FigArc>(w.figure).size(), 1u);
+
+    w = walk(makeTable({{"N", "", "", "", "", "", "120", "50", "L", ""}, {"E", "", "", "", "", "100", "", "", "", ""}}));
+    EXPECT_EQ(w.stop, WalkStop::CurveFault);
+    EXPECT_TRUE(itemsOf<FigLine>(w.figure).empty());
 }
 
 TEST(Walk, AreaSignFollowsTheDirectionOfTravel)
