@@ -31,7 +31,7 @@ TEST(GlobalConversion, RoundsToHundredthsHalfToEven)
 }
 
 // The data sit in row 0 only, which is converted too.
-TEST(GlobalConversion, ConvertingTwiceMultipliesTwice)
+TEST(GlobalConversion, ConvertingTwiceMultipliesTwiceAndSetsTheUnits)
 {
     CourseTable table;
     table.at(0, ColDistance) = Cell("100");
@@ -40,6 +40,8 @@ TEST(GlobalConversion, ConvertingTwiceMultipliesTwice)
     EXPECT_NEAR(table.at(0, ColDistance).number(), 328.1, 1e-9);
     meters.apply(table);
     EXPECT_NEAR(table.at(0, ColDistance).number(), 1076.5, 1e-9); // 328.1 x 3.281 = 1076.4961
+    EXPECT_EQ(GlobalConversion::feetToMeters().apply(table), Units::Meters);
+    EXPECT_THROW(GlobalConversion::toFeet(6), std::out_of_range);
 }
 
 TEST(GlobalConversion, TouchesOnlyLengthColumnsOfRowsUpToHighestPlusOne)
@@ -81,13 +83,6 @@ TEST(GlobalConversion, TypeMismatchStopsWhereItIs)
     EXPECT_NEAR(table.at(1, ColDistance).number(), 164.05, 1e-9); // before the bad cell: converted
     EXPECT_EQ(table.at(1, ColChord), Cell("12abc"));
     EXPECT_EQ(table.at(1, ColRadius), Cell("10"));                // after it: untouched
-}
-
-TEST(GlobalConversion, UnitsItSelects)
-{
-    CourseTable empty;
-    EXPECT_EQ(GlobalConversion::feetToMeters().apply(empty), Units::Meters);
-    EXPECT_THROW(GlobalConversion::toFeet(6), std::out_of_range);
 }
 
 } // namespace

@@ -61,26 +61,18 @@ TEST(FormatNumber, BadPatternsAndValues)
     EXPECT_THROW(generalNumber(std::nan("")), VbError);
 }
 
-struct GeneralCase {
-    double value;
-    const char *expected;
-};
-
-class GeneralNumberTest : public ::testing::TestWithParam<GeneralCase> {};
-
-TEST_P(GeneralNumberTest, ShortestFifteenDigitText)
+TEST(GeneralNumber, ShortestFifteenDigitText)
 {
-    EXPECT_EQ(generalNumber(GetParam().value), GetParam().expected);
+    const std::pair<double, const char *> cases[] = {
+        {328.1, "328.1"}, {16503.3, "16503.3"}, {1, "1"}, {100, "100"},
+        {0.1 + 0.2, "0.3"},                       // 0.30000000000000004 to 15 digits
+        {-0.0, "0"}, {-2.5, "-2.5"}, {1.0 / 3, "0.333333333333333"},
+        {999999999999999, "999999999999999"},     // exponent 14 stays plain
+        {999999999999999.9, "1E+15"},             // rounds up into exponent 15
+        {1.5e16, "1.5E+16"}, {1e100, "1E+100"}, {0.0001, "0.0001"}, {0.00001, "1E-05"}, {-1.23e-7, "-1.23E-07"}};
+    for (const auto &[value, text] : cases)
+        EXPECT_EQ(generalNumber(value), text) << value;
 }
-
-INSTANTIATE_TEST_SUITE_P(Cases, GeneralNumberTest, ::testing::Values(
-    GeneralCase{328.1, "328.1"}, GeneralCase{16503.3, "16503.3"}, GeneralCase{1, "1"}, GeneralCase{100, "100"},
-    GeneralCase{0.1 + 0.2, "0.3"},                       // 0.30000000000000004 to 15 digits
-    GeneralCase{-0.0, "0"}, GeneralCase{-2.5, "-2.5"}, GeneralCase{1.0 / 3, "0.333333333333333"},
-    GeneralCase{999999999999999, "999999999999999"},     // exponent 14 stays plain
-    GeneralCase{999999999999999.9, "1E+15"},             // rounds up into exponent 15
-    GeneralCase{1.5e16, "1.5E+16"}, GeneralCase{1e100, "1E+100"},
-    GeneralCase{0.0001, "0.0001"}, GeneralCase{0.00001, "1E-05"}, GeneralCase{-1.23e-7, "-1.23E-07"}));
 
 } // namespace
 } // namespace quilmar
