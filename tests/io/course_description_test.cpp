@@ -2,31 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-
 #include "course_description.h"
 #include "table_builder.h"
 
 using namespace quilmar;
 
-namespace {
-
-using test::Row;
-
-void setRow(CourseTable &table, int row, const Row &cells)
-{
-    for (int c = 0; c < 10; ++c)
-        table.at(row, c + 1) = Cell(std::string(cells[size_t(c)]));
-}
-
-} // namespace
-
 TEST(CourseDescription, EachCourseInWords)
 {
-    struct Case {
-        Row row;
-        const char *words;
-    };
+    struct Case { test::Row row; const char *words; };
     const Case cases[] = {
         {{"N", "45", "30", "15", "E", "100", "", "", "", ""}, "N 45\u00b0 30' 15\" E 100"},
         {{"S", "10", "", "", "W", "250.5", "", "", "", ""}, "S 10\u00b0 W 250.5"},
@@ -37,17 +20,14 @@ TEST(CourseDescription, EachCourseInWords)
         {{" S ", " 5 ", "", "", " E ", " 10 ", "", "", "", ""}, "S 5\u00b0 E 10"},
         {{"", "", "", "", "", "", "", "", "", "N"}, "New"},
         {{"", "", "", "", "", "", "", "", "", "C"}, " Back to pob"},
-        {{"", "", "", "", "", "", "", "", "L", "C"}, " Back to pob"},
+        {{"", "", "", "", "", "", "", "", "L", "C"}, " Back to pob"}, // L/R without a radius says nothing
         {{"N", "10", "", "", "E", "90", "", "", "", "C"}, "N 10\u00b0 E 90 Close"},
         {{"", "", "", "", "", "", "", "50", "R", "C"}, ", r 50 R Close"},
         {{"S", "", "", "", "", "1000", "", "", "", "B"}, "S 1000"},
         {{"", "", "", "", "", "", "", "", "", ""}, ""},
     };
-    for (const Case &c : cases) {
-        CourseTable table;
-        setRow(table, 3, c.row);
-        EXPECT_EQ(describeCourse(table, 3), c.words) << c.words;
-    }
+    for (const Case &c : cases)
+        EXPECT_EQ(describeCourse(test::makeTable({c.row}), 0), c.words) << c.words;
 }
 
 TEST(CourseDescription, ClipboardTextJoinsUsedRowsWithCrLf)
