@@ -48,7 +48,6 @@ TEST(PrintPage, ScaleCaptionTexts)
         {"Standard", "AutoScale = 50", Units::Feet, false, "Scale = 1: 50"},
         {"Maximum", "AutoScale = 7", Units::Other, true, "Scale = 1: 7"},
         {"Small", "", Units::Meters, true, "Scale = 1: (Meters)"},
-        {"Custom", "AutoScale = 120", Units::Feet, false, "Scale = 1: 120"},
         {"0", "AutoScale = 3", Units::Feet, false, "Scale = 1: 3"},
         {"1500.5", "", Units::Feet, false, "Scale = 1:1500.5"},
     };
@@ -118,18 +117,14 @@ TEST(PrintPage, LayoutPutsTheMapBelowHeadingAndCaption)
     EXPECT_FLOAT_EQ(bare.arrowFoot, 1080.0f + 540.0f);
     EXPECT_NEAR(bare.mapArea.top + bare.mapArea.height, kA4Page.height - 360, 0.01);
     EXPECT_FALSE(bare.listOnFirstPage || bare.listOnSecondPage);
-}
 
-TEST(PrintPage, ListMovesToASecondPageWhenItNeedsMoreThanTheFirstKeeps)
-{
-    MapPageText text;
-    text.referenceList = true;
-    RecordingSurface probe;
+    // The list moves to a second page when it needs more than the first keeps:
     // 44 \ 2 + 2 = 24 lines of 190.125 = 4563 > 4320; 40 \ 2 + 2 = 22 lines = 4182.75 fit.
+    text.referenceList = true;
     text.highest = 40;
-    EXPECT_TRUE(planMapPage(probe, kLetterPage, text).listOnFirstPage);
+    EXPECT_TRUE(planMapPage(s, kLetterPage, text).listOnFirstPage);
     text.highest = 44;
-    EXPECT_TRUE(planMapPage(probe, kLetterPage, text).listOnSecondPage);
+    EXPECT_TRUE(planMapPage(s, kLetterPage, text).listOnSecondPage);
 }
 
 TEST(PrintPage, PaintsFigureAtTheMapAreaAndTheListInTwoColumns)
@@ -151,21 +146,17 @@ TEST(PrintPage, PaintsFigureAtTheMapAreaAndTheListInTwoColumns)
     const std::vector<std::string> &calls = page.calls();
 
     // The caption in 7.8 pt at the text origin's x.
-    const auto caption = std::find_if(calls.begin(), calls.end(),
-                                      [](const std::string &c) { return c.find("Scale = 1:100 (Feet)") != std::string::npos; });
-    ASSERT_NE(caption, calls.end());
-    EXPECT_EQ(caption->rfind("#000000 text 360 ", 0), 0u) << *caption;
+    const std::vector<std::string> caption = test::callsContaining(page, "Scale = 1:100 (Feet)");
+    ASSERT_EQ(caption.size(), 1u);
+    EXPECT_EQ(caption[0].rfind("#000000 text 360 ", 0), 0u) << caption[0];
 
     // The figure: origin so that drawing point (-1000, -2000) is the area's top-left;
     // the printer's items only (no end mark), the label where the walk put it.
-    const auto at = std::find_if(calls.begin(), calls.end(), [](const std::string &c) {
-        return c.rfind("scaleOrigin -1360 ", 0) == 0;
-    });
+    const auto at = std::find_if(calls.begin(), calls.end(), [](const std::string &c) { return c.rfind("scaleOrigin -1360 ", 0) == 0; });
     ASSERT_NE(at, calls.end());
     EXPECT_NEAR(std::stod(at->substr(18)), -2000.0 - layout.mapArea.top, 0.01);
-    EXPECT_EQ(*(at + 1), "#000080 line 0 0 300 0");
-    EXPECT_EQ(*(at + 2), "#000080 text -180 0 0 1 ");
-    EXPECT_EQ(*(at + 3), "scaleOrigin 0 0");
+    EXPECT_EQ(std::vector<std::string>(at + 1, at + 4),
+              (std::vector<std::string>{"#000080 line 0 0 300 0", "#000080 text -180 0 0 1 ", "scaleOrigin 0 0"}));
     EXPECT_EQ(countOf(page, "#800000 text 300 0 0 x"), 0);
 
     // Five entries: three in the first column, two in the second; the block's

@@ -60,14 +60,10 @@ TEST_F(QtSurfaceTest, LegCoversExactlyOnePixelRowAndFollowsTheLeftEdge)
         s.line({0, 450}, {0, 1500});   // column (0 + 360)/15 = 24, rows 30 to 100
     });
     const Rgb blue{0, 0, 128};
-    EXPECT_EQ(at(1, 10), blue);
-    EXPECT_EQ(at(50, 10), blue);
-    EXPECT_EQ(at(50, 9), kGrey);
-    EXPECT_EQ(at(50, 11), kGrey);
-    EXPECT_EQ(at(150, 10), kGrey);
-    EXPECT_EQ(at(24, 60), blue);
-    EXPECT_EQ(at(23, 60), kGrey);
-    EXPECT_EQ(at(0, 60), kGrey);
+    const struct { int x, y; Rgb colour; } pixels[] = {{1, 10, blue},   {50, 10, blue}, {50, 9, kGrey}, {50, 11, kGrey},
+                                                       {150, 10, kGrey}, {24, 60, blue}, {23, 60, kGrey}, {0, 60, kGrey}};
+    for (const auto &p : pixels)
+        EXPECT_EQ(at(p.x, p.y), p.colour) << p.x << "," << p.y;
 }
 
 TEST_F(QtSurfaceTest, ArcsRunCounterClockwiseAsSeenOnTheMap)

@@ -10,14 +10,16 @@ namespace {
 
 using test::course;
 
-FitResult fit(const LegTable &legs, const std::string &scale, bool printing = false, Units units = Units::Feet)
+// The fit on a 7200 x 4800 canvas from a fresh state.
+FitResult fit(const LegTable &legs, const std::string &scale = "Standard", bool printing = false,
+              Units units = Units::Feet, GapShares *shares = nullptr, float previousFactor = 0.0f)
 {
     TraverseState state;
-    GapShares shares;
+    GapShares scratch;
     ScaleChoice choice;
     choice.scaleText = scale;
     choice.units = units;
-    return rescaling(legs, choice, 7200.0f, 4800.0f, printing, 0.0f, state, shares);
+    return rescaling(legs, choice, 7200.0f, 4800.0f, printing, previousFactor, state, shares ? *shares : scratch);
 }
 
 } // namespace
@@ -51,46 +53,37 @@ TEST(Rescaling, ScreenAndPrintedFactors)
     for (const auto &c : cases)
         EXPECT_FLOAT_EQ(fit(east, c.scale, c.printing, c.units).scaleFactor, c.factor) << c.scale << c.printing;
     // Centred: offX = (7200 - 5184) / 2 = 1008, offY = (4800 - 51.84) / 2 = 2374.08.
-    const FitResult screen = fit(east, "Standard");
+    const FitResult screen = fit(east);
     EXPECT_FLOAT_EQ(screen.scaleLeft, -1008.0f);
     EXPECT_FLOAT_EQ(screen.scaleTop, -2375.0f); // Int rounds toward minus infinity
     EXPECT_FALSE(screen.failed);
     // Printed: centred on twice the canvas, offX = (14400 - 10368) / 2.
     EXPECT_FLOAT_EQ(fit(east, "Standard", true).scaleLeft, -2016.0f);
-}
-
-TEST(Rescaling, CloseReturnsToTheBeginningAndNewLotToTheOrigin)
-{
     // South 100 to an origin, east 300 tagged "C" back to the origin-beginning,
     // then "N" and west 50: extents x -50..300, y 0..100.
-    const LegTable legs{course(90.0f, 100, Tag::Origin), course(0.0f, 300, Tag::Close), course(0.0f, 0, Tag::NewLot),
+    const LegTable lots{course(90.0f, 100, Tag::Origin), course(0.0f, 300, Tag::Close), course(0.0f, 0, Tag::NewLot),
                         course(180.0f, 50)};
-    FitResult f = fit(legs, "Maximum");
-    EXPECT_NEAR(f.scaleFactor, 7200.0 / 350.0 * 0.96, 1e-4);
+    EXPECT_NEAR(fit(lots, "Maximum").scaleFactor, 7200.0 / 350.0 * 0.96, 1e-4);
 }
 
 TEST(Rescaling, BalanceSharesSpreadTheGapOverStraightLegs)
 {
-    TraverseState state;
     GapShares shares{9, 9, 9};
-    ScaleChoice choice;
-    const LegTable legs{course(0.0f, 100), course(90.0f, 50)};
-    FitResult f = rescaling(legs, choice, 7200, 4800, false, 0, state, shares);
+    const FitResult f = fit({course(0.0f, 100), course(90.0f, 50)}, "Standard", false, Units::Feet, &shares);
     EXPECT_EQ(shares.legCount, 2);
     EXPECT_NEAR(shares.x, 100.0 * f.scaleFactor / 2, 1e-3);
     EXPECT_NEAR(shares.y, 50.0 * f.scaleFactor / 2, 1e-3);
     // No straight leg: the shares keep their values, without a message.
     GapShares kept{9, 9, 9};
-    rescaling(LegTable{}, choice, 7200, 4800, false, 0, state, kept);
+    fit({}, "Standard", false, Units::Feet, &kept);
     EXPECT_EQ(kept.legCount, 9);
 }
 
 TEST(Rescaling, AutoScaleCaption)
 {
-    ScaleChoice feet;
-    EXPECT_EQ(autoScaleCaption(feet, 14.4f), "AutoScale = 50");
-    ScaleChoice metres;
+    ScaleChoice feet, metres;
     metres.units = Units::Meters;
+    EXPECT_EQ(autoScaleCaption(feet, 14.4f), "AutoScale = 50");
     EXPECT_EQ(autoScaleCaption(metres, 14.4f), "AutoScale = 20"); // 576 / 28.8
     EXPECT_EQ(autoScaleCaption(feet, 720.0f), "");                 // 1440 / 1440 = 1 is not above 1
     EXPECT_THROW(autoScaleCaption(feet, 0.0f), VbError);
@@ -98,11 +91,7 @@ TEST(Rescaling, AutoScaleCaption)
 
 TEST(Rescaling, AFaultKeepsTheFactorReached)
 {
-    TraverseState state;
-    GapShares shares;
-    ScaleChoice choice;
-    const LegTable legs{course(0.0f, 100), course(0.0f, 1e39)};
-    FitResult f = rescaling(legs, choice, 7200, 4800, false, 5.0f, state, shares);
+    const FitResult f = fit({course(0.0f, 100), course(0.0f, 1e39)}, "Standard", false, Units::Feet, nullptr, 5.0f);
     EXPECT_TRUE(f.failed);
     EXPECT_FLOAT_EQ(f.scaleFactor, 72.0f); // the fit of the first course, before the level factor
 }

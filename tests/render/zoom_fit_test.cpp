@@ -22,14 +22,8 @@ TEST(ZoomFit, FitsNinetyFivePercentAndCentres)
     EXPECT_FLOAT_EQ(fit.scaleTop, -5250.0f);
     // A magnified redraw keeps that origin and only scales the factor.
     EXPECT_FLOAT_EQ(magnifiedScaleFactor(fit, 2.0), 380.0f);
-}
-
-TEST(ZoomFit, SinglePointFitsThePictureSide)
-{
-    TraverseState state;
-    const ZoomFit fit = zoomFit({}, 23040.0f, 23040.0f, state);
-    EXPECT_NEAR(fit.scaleFactor, 23040 * 0.95, 1e-2);
-    EXPECT_FLOAT_EQ(magnifiedScaleFactor(fit, 1.0), fit.scaleFactor);
+    // A single point fits the picture's side.
+    EXPECT_NEAR(zoomFit({}, 23040.0f, 23040.0f, state).scaleFactor, 23040 * 0.95, 1e-2);
 }
 
 TEST(ZoomFit, Magnifications)
@@ -38,27 +32,20 @@ TEST(ZoomFit, Magnifications)
         const char *answer;
         double button, menu;
     };
-    const Case cases[] = {
-        {"", 0.95, 0.95},        {"abc", 0.95, 0.95}, {"6", 6 / 6.3, 6.0},
-        {"1", 1 / 6.3, 1.0},     {"0", 0.95, 0.95},   {"-2", -2 / 6.3, -2.0},
-        {"0.6", 0.6 / 6.3, 0.6},
-    };
+    const Case cases[] = {{"", 0.95, 0.95}, {"abc", 0.95, 0.95}, {"6", 6 / 6.3, 6.0},   {"1", 1 / 6.3, 1.0},
+                          {"0", 0.95, 0.95}, {"-2", -2 / 6.3, -2.0}, {"0.6", 0.6 / 6.3, 0.6}};
     for (const Case &c : cases) {
         EXPECT_DOUBLE_EQ(redrawButtonMagnification(c.answer), c.button) << c.answer;
         EXPECT_DOUBLE_EQ(redrawMenuMagnification(c.answer), c.menu) << c.answer;
     }
 }
 
-TEST(ZoomFit, PictureIsTwiceTheScreenHeightWithItsScrollBars)
+TEST(ZoomFit, PictureWindowAndTheSixtyTwipJumpWhenTheDragEnds)
 {
-    const ZoomPicture p = zoomPicture(11520.0f);
+    const ZoomPicture p = zoomPicture(11520.0f); // twice the screen height, with its scroll bars
     EXPECT_FLOAT_EQ(p.side, 23040.0f);
     EXPECT_EQ(p.scrollMax, 16128);
     EXPECT_EQ(p.smallChange, 1612);
-}
-
-TEST(ZoomFit, PictureJumpsSixtyTwipsWhenTheDragEnds)
-{
     EXPECT_EQ(zoomPictureOffset(1000, false), -1000);
     EXPECT_EQ(zoomPictureOffset(1000, true), -940);
     EXPECT_EQ(zoomPictureOffset(0, true), 60);
