@@ -8,42 +8,34 @@ namespace {
 
 using CC = CurveCalculator;
 
-struct CurveCase {
-    CurveCalculator calculator;
-    const char *answer;
-    const char *acresbox;
-    const char *clipboard; // nullptr: the clipboard is not touched
-};
-
-class CurveCalculatorTest : public ::testing::TestWithParam<CurveCase> {};
-
-TEST_P(CurveCalculatorTest, ComputesTheResultLine)
+TEST(CurveCalculator, ComputesTheResultLine)
 {
-    const CurveCase &c = GetParam();
-    const CalcResult r = runCurveCalculator(c.calculator, c.answer);
-    EXPECT_EQ(r.acresbox, c.acresbox);
-    EXPECT_EQ(r.clipboard, c.clipboard ? std::optional<std::string>(c.clipboard) : std::nullopt);
-    EXPECT_TRUE(r.messages.empty());
+    // Lengths print 4 decimals: each golden text holds to 0.00005; seconds to the last decimal shown.
+    // The clipboard: nullptr where it is not touched.
+    const struct { CurveCalculator calculator; const char *answer, *acresbox, *clipboard; } cases[] = {
+        // half circle: 50 x 3.14159265 = 157.0796325
+        {CC::Arc, "100 50", "Arc Length  = 157.0796", "157.0796"},
+        // 2R asin(c / 2R) = 501 asin(75.175 / 250.5) = 152.70343
+        {CC::Arc, "  150.35 250.50 ", "Arc Length  = 152.7034", "152.7034"},
+        // single(314.159265) = 314.1592712 = single(100 x pi): half-circle branch, s / pi = 100.0000019
+        {CC::Chord, "314.159265 100", "Chord  = 100.0", "100.0"},
+        // a little short of the half circle: 200 sin(314 / 200) = 199.99994
+        {CC::Chord, "314 100", "Chord  = 199.9999", "199.9999"},
+        // 50 x 360 / (2 pi 26.96) = 106.26073 deg; 0.26073 x 3600 = 938.617" = 15' 38.617"
+        {CC::Angle, "50  26.96", "Angle = 106\u00B0 15' 38.617''", nullptr},
+        // one radian held in single precision is 57.29578018 deg: 17' 44.809" (a double gives 44.806)
+        {CC::Angle, "100 100", "Angle = 57\u00B0 17' 44.809''", nullptr},
+        // asin(25 / 75.5) = 19.337123 deg = 19 deg 20' 13.64"
+        {CC::Tangent, "50  75.50", "Angle (difference) = 19\u00B0 20' 13.64''", nullptr},
+        // asin(1/2) is 30 deg, but the short pi leaves 29.99999993: 59' 60.00", kept as it falls
+        {CC::Tangent, "100 100", "Angle (difference) = 29\u00B0 59' 60.00''", nullptr}};
+    for (const auto &c : cases) {
+        const CalcResult r = runCurveCalculator(c.calculator, c.answer);
+        EXPECT_EQ(r.acresbox, c.acresbox);
+        EXPECT_EQ(r.clipboard, c.clipboard ? std::optional<std::string>(c.clipboard) : std::nullopt);
+        EXPECT_TRUE(r.messages.empty()) << c.answer;
+    }
 }
-
-// Lengths print 4 decimals: each golden text holds to 0.00005; seconds to the last decimal shown.
-INSTANTIATE_TEST_SUITE_P(Results, CurveCalculatorTest, ::testing::Values(
-    // half circle: 50 x 3.14159265 = 157.0796325
-    CurveCase{CC::Arc, "100 50", "Arc Length  = 157.0796", "157.0796"},
-    // 2R asin(c / 2R) = 501 asin(75.175 / 250.5) = 152.70343
-    CurveCase{CC::Arc, "  150.35 250.50 ", "Arc Length  = 152.7034", "152.7034"},
-    // single(314.159265) = 314.1592712 = single(100 x pi): half-circle branch, s / pi = 100.0000019
-    CurveCase{CC::Chord, "314.159265 100", "Chord  = 100.0", "100.0"},
-    // a little short of the half circle: 200 sin(314 / 200) = 199.99994
-    CurveCase{CC::Chord, "314 100", "Chord  = 199.9999", "199.9999"},
-    // 50 x 360 / (2 pi 26.96) = 106.26073 deg; 0.26073 x 3600 = 938.617" = 15' 38.617"
-    CurveCase{CC::Angle, "50  26.96", "Angle = 106\u00B0 15' 38.617''", nullptr},
-    // one radian held in single precision is 57.29578018 deg: 17' 44.809" (a double gives 44.806)
-    CurveCase{CC::Angle, "100 100", "Angle = 57\u00B0 17' 44.809''", nullptr},
-    // asin(25 / 75.5) = 19.337123 deg = 19 deg 20' 13.64"
-    CurveCase{CC::Tangent, "50  75.50", "Angle (difference) = 19\u00B0 20' 13.64''", nullptr},
-    // asin(1/2) is 30 deg, but the short pi leaves 29.99999993: 59' 60.00", kept as it falls
-    CurveCase{CC::Tangent, "100 100", "Angle (difference) = 29\u00B0 59' 60.00''", nullptr}));
 
 TEST(CurveCalculator, MessagesChangeNothing)
 {

@@ -8,36 +8,27 @@ namespace {
 
 using UC = UnitConverter;
 
-struct ConverterCase {
-    UnitConverter converter;
-    const char *answer;
-    const char *result; // "##0.0###": the exact text holds to 0.00005
-    const char *acresbox;
-};
-
-class UnitConverterTest : public ::testing::TestWithParam<ConverterCase> {};
-
-TEST_P(UnitConverterTest, ConvertsAndReportsAsTyped)
+TEST(UnitConverter, ConvertsAndReportsAsTyped)
 {
-    const ConverterCase &c = GetParam();
-    const CalcResult r = runConverter(c.converter, c.answer);
-    EXPECT_EQ(r.clipboard, c.result);
-    EXPECT_EQ(r.acresbox, c.acresbox);
-    EXPECT_TRUE(r.messages.empty());
-    EXPECT_FALSE(r.field);
+    // The result as "##0.0###": the exact text holds to 0.00005.
+    const struct { UnitConverter converter; const char *answer, *result, *acresbox; } cases[] = {
+        {UC::Chains, "10.05", "663.3", "10.05 Chains = 663.3 feet"},     // 10.05 x 66
+        {UC::Links, "1", "0.66", "1 Links = 0.66 feet"},                 // 66 / 100
+        {UC::Rods, " 12 ", "198.0", " 12  Rods = 198.0 feet"},           // 12 x 16.5; answer as typed
+        {UC::Perches, "1", "16.5", "1 Perches = 16.5 feet"},
+        {UC::Furlongs, "1", "660.0", "1 Furlongs = 660.0 feet"},
+        {UC::Varas, "3.5", "9.7222", "3.5 Varas = 9.7222 feet"},         // 3.5 / 0.36 = 9.72222...
+        {UC::Yards, "1", "3.0", "1 Yards = 3.0 Feet"},
+        {UC::FeetToMeters, "3.281", "1.0", "3.281 Feet = 1.0 Meters"},
+        {UC::FeetToMeters, "1000", "304.7851", "1000 Feet = 304.7851 Meters"}, // 304.78512...
+        {UC::MetersToFeet, "-2", "-6.562", "-2 Meters = -6.562 Feet"}};
+    for (const auto &c : cases) {
+        const CalcResult r = runConverter(c.converter, c.answer);
+        EXPECT_EQ(r.clipboard, c.result);
+        EXPECT_EQ(r.acresbox, c.acresbox);
+        EXPECT_TRUE(r.messages.empty() && !r.field) << c.answer;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Factors, UnitConverterTest, ::testing::Values(
-    ConverterCase{UC::Chains, "10.05", "663.3", "10.05 Chains = 663.3 feet"},     // 10.05 x 66
-    ConverterCase{UC::Links, "1", "0.66", "1 Links = 0.66 feet"},                 // 66 / 100
-    ConverterCase{UC::Rods, " 12 ", "198.0", " 12  Rods = 198.0 feet"},           // 12 x 16.5; answer as typed
-    ConverterCase{UC::Perches, "1", "16.5", "1 Perches = 16.5 feet"},
-    ConverterCase{UC::Furlongs, "1", "660.0", "1 Furlongs = 660.0 feet"},
-    ConverterCase{UC::Varas, "3.5", "9.7222", "3.5 Varas = 9.7222 feet"},         // 3.5 / 0.36 = 9.72222...
-    ConverterCase{UC::Yards, "1", "3.0", "1 Yards = 3.0 Feet"},
-    ConverterCase{UC::FeetToMeters, "3.281", "1.0", "3.281 Feet = 1.0 Meters"},
-    ConverterCase{UC::FeetToMeters, "1000", "304.7851", "1000 Feet = 304.7851 Meters"}, // 304.78512...
-    ConverterCase{UC::MetersToFeet, "-2", "-6.562", "-2 Meters = -6.562 Feet"}));
 
 TEST(UnitConverter, BadAnswersChangeNothing)
 {

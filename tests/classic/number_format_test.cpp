@@ -11,46 +11,35 @@
 namespace quilmar {
 namespace {
 
-struct FormatCase {
-    double value;
-    const char *pattern;
-    const char *expected;
-};
-
-class FormatNumberTest : public ::testing::TestWithParam<FormatCase> {};
-
-TEST_P(FormatNumberTest, FormatsAsTheClassicFormatter)
-{
-    const FormatCase &c = GetParam();
-    EXPECT_EQ(formatNumber(c.value, c.pattern), c.expected) << c.value << " with " << c.pattern;
-}
-
 // Expected texts: the decimal value rounded by hand, half away from zero, at the last place shown.
-INSTANTIATE_TEST_SUITE_P(Named, FormatNumberTest, ::testing::Values(
-    FormatCase{50000, "Standard", "50,000.00"}, FormatCase{0, "Standard", "0.00"},
-    FormatCase{-1234.5, "Standard", "-1,234.50"}, FormatCase{999, "standard", "999.00"},
-    FormatCase{50000.0 / 43560, "Standard", "1.15"},     // 1.14784... acres
-    FormatCase{9.995, "Standard", "10.00"},              // carry into a new digit
-    FormatCase{999999.995, "Standard", "1,000,000.00"},  // carry through the groups
-    FormatCase{-0.004, "Standard", "0.00"},              // no "-" on a zero
-    FormatCase{1e20, "Standard", "100,000,000,000,000,000,000.00"},
-    FormatCase{0.0005, "Percent", "0.05%"}, FormatCase{0, "Percent", "0.00%"},
-    FormatCase{123.456, "Percent", "12345.60%"},         // no thousands separator
-    FormatCase{0.00125, "Percent", "0.13%"},             // 0.125 % is a tie
-    FormatCase{-0.5, "Percent", "-50.00%"}));
-
-INSTANTIATE_TEST_SUITE_P(DigitPatterns, FormatNumberTest, ::testing::Values(
-    FormatCase{1.25, "0.0##", "1.25"}, FormatCase{0.0004, "0.0##", "0.0"}, FormatCase{12, "0.0##", "12.0"},
-    FormatCase{0.4, "###", ""}, FormatCase{-0.4, "###", ""}, FormatCase{10000, "###", "10000"},
-    FormatCase{2.5, "###", "3"}, FormatCase{-2.5, "###", "-3"},   // away from zero, not to even
-    FormatCase{0, "##0", "0"}, FormatCase{49.5, "##0", "50"},
-    FormatCase{663.3, "##0.0###", "663.3"}, FormatCase{66, "##0.0###", "66.0"},
-    FormatCase{2.77777778, "##0.0###", "2.7778"}, FormatCase{0.99999, "##0.0###", "1.0"},
-    FormatCase{0.5, "##.###", ".5"}, FormatCase{0, "##.###", "."}, FormatCase{-0.3, "##.###", "-.3"},
-    FormatCase{5, "#.##", "5."}, FormatCase{7.5, "0", "8"}, FormatCase{5, "00.0", "05.0"},
-    FormatCase{2.675, "0.00", "2.68"},                   // binary 2.67499999..., reads 2.675
-    FormatCase{-2.675, "0.00", "-2.68"}, FormatCase{0.125, "0.00", "0.13"},
-    FormatCase{123456789012345678.0, "0", "123456789012346000"})); // 15 significant digits
+TEST(FormatNumber, FormatsAsTheClassicFormatter)
+{
+    const struct { double value; const char *pattern, *expected; } cases[] = {
+        {50000, "Standard", "50,000.00"}, {0, "Standard", "0.00"},
+        {-1234.5, "Standard", "-1,234.50"}, {999, "standard", "999.00"},
+        {50000.0 / 43560, "Standard", "1.15"},     // 1.14784... acres
+        {9.995, "Standard", "10.00"},              // carry into a new digit
+        {999999.995, "Standard", "1,000,000.00"},  // carry through the groups
+        {-0.004, "Standard", "0.00"},              // no "-" on a zero
+        {1e20, "Standard", "100,000,000,000,000,000,000.00"},
+        {0.0005, "Percent", "0.05%"}, {0, "Percent", "0.00%"},
+        {123.456, "Percent", "12345.60%"},         // no thousands separator
+        {0.00125, "Percent", "0.13%"},             // 0.125 % is a tie
+        {-0.5, "Percent", "-50.00%"},
+        {1.25, "0.0##", "1.25"}, {0.0004, "0.0##", "0.0"}, {12, "0.0##", "12.0"},
+        {0.4, "###", ""}, {-0.4, "###", ""}, {10000, "###", "10000"},
+        {2.5, "###", "3"}, {-2.5, "###", "-3"},   // away from zero, not to even
+        {0, "##0", "0"}, {49.5, "##0", "50"},
+        {663.3, "##0.0###", "663.3"}, {66, "##0.0###", "66.0"},
+        {2.77777778, "##0.0###", "2.7778"}, {0.99999, "##0.0###", "1.0"},
+        {0.5, "##.###", ".5"}, {0, "##.###", "."}, {-0.3, "##.###", "-.3"},
+        {5, "#.##", "5."}, {7.5, "0", "8"}, {5, "00.0", "05.0"},
+        {2.675, "0.00", "2.68"},                   // binary 2.67499999..., reads 2.675
+        {-2.675, "0.00", "-2.68"}, {0.125, "0.00", "0.13"},
+        {123456789012345678.0, "0", "123456789012346000"}}; // 15 significant digits
+    for (const auto &c : cases)
+        EXPECT_EQ(formatNumber(c.value, c.pattern), c.expected) << c.value << " with " << c.pattern;
+}
 
 TEST(FormatNumber, BadPatternsAndValues)
 {
