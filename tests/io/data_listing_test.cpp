@@ -3,30 +3,26 @@
 #include <gtest/gtest.h>
 
 #include "data_listing.h"
+#include "table_builder.h"
 
 using namespace quilmar;
 
 TEST(DataListing, RowsTabToTheColumnsAndWrapWhenACellIsTooLong)
 {
-    CourseTable table;
-    const char *full[] = {"N", "45", "30", "15", "E", "100.25", "141.42", "100", "R", "B"};
-    for (int c = 0; c < 10; ++c)
-        table.at(0, c + 1) = Cell(std::string(full[c]));
+    CourseTable table = test::makeTable({{"N", "45", "30", "15", "E", "100.25", "141.42", "100", "R", "B"}});
     EXPECT_EQ(dataRowLines(table, 0),
               std::vector<std::string>{"N   45   30   15   E  100.25      141.42      100         R    B"});
 
     // A 14-character distance passes column 35: the chord tabs to column 35 of a new line.
-    table.at(1, ColDistance) = Cell(std::string("12345678901234"));
-    table.at(1, ColChord) = Cell(std::string("7"));
+    table.at(1, ColDistance) = "12345678901234";
+    table.at(1, ColChord) = "7";
     EXPECT_EQ(dataRowLines(table, 1),
               (std::vector<std::string>{"                      12345678901234", "                                  7"}));
 }
 
 TEST(DataListing, OneCourseGivesHeadingRowAndEnd)
 {
-    CourseTable table;
-    table.at(0, ColNS) = Cell(std::string("S"));
-    table.at(0, ColDistance) = Cell(std::string("1000"));
+    const CourseTable table = test::makeTable({{"S", "", "", "", "", "1000", "", "", "", ""}});
     const std::vector<std::string> lines = dataListingLines(table, "", 75);
     //                           1   5    10   15   20 23          35          47          59   64
     const std::string heading = "NS  Deg  Min  Sec  EW Distance    Chord       Radius      L-R  Tag";

@@ -4,6 +4,7 @@
 #include <random>
 
 #include "map_file.h"
+#include "table_builder.h"
 #include "temp_folder.h"
 
 namespace quilmar {
@@ -47,10 +48,7 @@ TEST(MapFileBytes, Tail)
 
 TEST(MapFileBytes, CellsOfOneLine)
 {
-    CourseTable table;
-    const char *texts[] = {"N", "12", "30", "0", "E", "", "", "", "", "B"};
-    for (int col = 1; col <= 10; ++col)
-        table.at(0, col) = texts[col - 1];
+    CourseTable table = test::makeTable({{"N", "12", "30", "0", "E", "", "", "", "", "B"}});
     table.at(0, ColDistance) = 328.1;           // a number cell, as global conversion leaves it
     table.at(0, ColRadius) = "a\tb\xC3\xA9";    // TAB would split the line: written as a space
     const std::string bytes = mapFileBytes(table, "", Units::Feet, "Standard");

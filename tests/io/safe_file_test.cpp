@@ -51,10 +51,7 @@ TEST_F(SafeFileTest, RefusesTargetsThatAreNotRegularFiles)
     fs::create_symlink("missing.map", m_dir / "dangling");
     fs::create_symlink("loop2", m_dir / "loop1");
     fs::create_symlink("loop1", m_dir / "loop2");
-    const struct {
-        std::string path;
-        std::string reason;
-    } cases[] = {
+    const struct { std::string path; std::string reason; } cases[] = {
         {"/dev/null", "it is a device, not a file"},
         {(m_dir / "fifo").string(), "it is a pipe (FIFO), not a file"},
         {(m_dir / "folder").string(), "it is a folder"},
@@ -93,11 +90,7 @@ TEST_F(SafeFileTest, ReadNamesItsReason)
     put("big.map", std::string(2048, 'x'));
     put("ok.map", "abc");
     ASSERT_EQ(mkfifo((m_dir / "fifo").c_str(), 0600), 0);
-    const struct {
-        std::string path;
-        FileProblem problem;
-        std::string reason;
-    } cases[] = {
+    const struct { std::string path; FileProblem problem; std::string reason; } cases[] = {
         {(m_dir / "none.map").string(), FileProblem::NotFound, "there is no such file"},
         {m_dir.string(), FileProblem::NotRegular, "it is a folder"},
         {(m_dir / "fifo").string(), FileProblem::NotRegular, "it is a pipe (FIFO), not a file"},

@@ -18,7 +18,7 @@ protected:
 
 } // namespace
 
-TEST_F(Settings, MissingFileGivesTheDefaults)
+TEST_F(Settings, MissingFolderOrOversizedFileGivesTheDefaults)
 {
     const SettingsValues s = readSettings(folder.file("none.ini"));
     EXPECT_EQ(s.scales, "50;100;200;400;800;1500;2000;3000;4000");
@@ -27,6 +27,10 @@ TEST_F(Settings, MissingFileGivesTheDefaults)
     EXPECT_EQ(s.printOptions, (std::array<int16_t, 5>{1, 1, 1, 0, 0}));
     EXPECT_EQ(scaleItems(s.scales), (std::vector<std::string>{" 50", " 100", " 200", " 400", " 800", " 1500", " 2000",
                                                               " 3000", " 4000"}));
+    EXPECT_EQ(readSettings(folder.path().string()).scales, s.scales);
+    const std::string big = "[Setting]\nScales=1\n" + std::string(kMaxSettingsFileBytes, ' ');
+    EXPECT_EQ(readSettingsText(big).scales, "1");
+    EXPECT_EQ(read(big).scales, s.scales);
 }
 
 TEST_F(Settings, KeysAnyCaseValuesWholeLeadingNumbers)
@@ -40,10 +44,6 @@ TEST_F(Settings, KeysAnyCaseValuesWholeLeadingNumbers)
     EXPECT_EQ(s.scaleEnglish, 0.0f);
     // PropertyDescr missing: its default; BalanceGap 2.5 rounds half to even; the first of two keys counts.
     EXPECT_EQ(s.printOptions, (std::array<int16_t, 5>{1, 0, 1, 1, 2}));
-}
-
-TEST_F(Settings, ScaleListEdgeCases)
-{
     EXPECT_EQ(read("[Setting]\nScales=250\n").scales, "250");
     EXPECT_TRUE(scaleItems(read("[Setting]\nScales=\n").scales).empty());
     EXPECT_EQ(scaleItems("-20;1E3;"), (std::vector<std::string>{"-20", " 1000"}));
@@ -77,12 +77,4 @@ TEST_F(Settings, TextAndFileReadTheSame)
         EXPECT_EQ(fromText.scaleMetric, fromFile.scaleMetric) << ::testing::PrintToString(c.content);
         EXPECT_EQ(fromText.printOptions, fromFile.printOptions) << ::testing::PrintToString(c.content);
     }
-}
-
-TEST_F(Settings, AFolderOrAnOversizedFileGivesTheDefaults)
-{
-    EXPECT_EQ(readSettings(folder.path().string()).scales, SettingsValues{}.scales);
-    const std::string big = "[Setting]\nScales=1\n" + std::string(kMaxSettingsFileBytes, ' ');
-    EXPECT_EQ(readSettingsText(big).scales, "1");
-    EXPECT_EQ(read(big).scales, SettingsValues{}.scales);
 }
