@@ -24,11 +24,7 @@ LegTable convert(CourseTable t, std::vector<std::string> *messages = nullptr)
 
 TEST(CourseConversion, DirectionOfTheLastRow)
 {
-    struct Case {
-        const char *what;
-        std::vector<Row> rows;
-        float direction;
-    };
+    struct Case { const char *what; std::vector<Row> rows; float direction; };
     const Case cases[] = {
         {"N 0 E is north", {{"N", "0", "0", "0", "E", "100", "", "", "", ""}}, -90.0f},
         {"S 45 W", {{"S", "45", "0", "0", "W", "100", "", "", "", ""}}, 135.0f},

@@ -13,11 +13,7 @@ using quilmar::test::makeTable;
 
 namespace {
 
-struct Walked {
-    TraverseState state;
-    Figure figure;
-    WalkStop stop = WalkStop::None;
-};
+struct Walked { TraverseState state; Figure figure; WalkStop stop = WalkStop::None; };
 
 Walked walk(CourseTable t, bool areaMode = true, float scale = 1.0f)
 {

@@ -10,10 +10,7 @@ namespace {
 
 TEST(DeviceMapping, MapsDrawingPointsToDeviceAndBack)
 {
-    const struct {
-        DeviceMapping mapping;
-        PointF drawing, device; // twips, device units
-    } cases[] = {
+    const struct { DeviceMapping mapping; PointF drawing, device; } cases[] = { // twips, device units
         // Origin (-360, -1080) at 15 twips a pixel: 360/15 = 24, 1080/15 = 72.
         {DeviceMapping::forPixels(-360, -1080), {0, 0}, {24, 72}},
         // (1440 + 360)/15 = 120, (150 + 1080)/15 = 82.

@@ -31,10 +31,7 @@ TEST(FigurePainter, PaintsTheItemsOfTheDeviceInOrderAndColour)
     const std::string line = "#000080 line 0 0 1500 0", label = "#000000 text -180 0 0 A ",
                       mark = "#000080 circle 1500 0 30", arc = "#000080 arc 1500 600 600 1.5 3",
                       end = "#800000 text 900 600 0 x";
-    const struct {
-        Target which;
-        Calls expected;
-    } cases[] = {
+    const struct { Target which; Calls expected; } cases[] = {
         {Target::Screen, {line, mark, arc, end}},
         {Target::Printer, {line, label, arc}},
         {Target::Both, {line, label, mark, arc, end}},

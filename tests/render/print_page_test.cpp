@@ -34,12 +34,7 @@ TEST(PrintPage, NorthArrowIsSevenStepsAndAnN)
 
 TEST(PrintPage, ScaleCaptionTexts)
 {
-    struct Case {
-        const char *scale, *autoScale;
-        Units units;
-        bool list;
-        const char *caption;
-    };
+    struct Case { const char *scale, *autoScale; Units units; bool list; const char *caption; };
     const Case cases[] = {
         {"1000:1", "AutoScale = 50", Units::Feet, true, "Scale = 1:1000 (Feet)"},
         {"200", "", Units::Meters, true, "Scale = 1:200 (Meters)"},

@@ -71,10 +71,7 @@ TEST_F(QtSurfaceTest, ArcsRunCounterClockwiseAsSeenOnTheMap)
     // Centre (1500, 750) twips = pixel (100, 50), radius 600 twips = 40 pixels:
     // east (140, 50), north (100, 10), west (60, 50); at 45 degrees 40*cos 45 =
     // 28.3 pixels off the centre each way: NE (128, 22), SE (128, 78), NW (71, 22).
-    const struct {
-        double start, end;
-        std::vector<QPoint> inked, empty;
-    } cases[] = {
+    const struct { double start, end; std::vector<QPoint> inked, empty; } cases[] = {
         {0.0, kPi / 2, {{128, 22}, {140, 50}, {100, 10}}, {{128, 78}, {71, 22}, {71, 78}}},
         // An end below the start: the quarter round east, not three quarters.
         {1.75 * kPi, 0.25 * kPi, {{140, 50}}, {{60, 50}, {100, 10}}},

@@ -37,12 +37,7 @@ TEST(Rescaling, ScreenAndPrintedFactors)
 {
     // East 100: extY is taken as 1, fx = 7200 / 100 = 72, fy = 4800: 72 * 0.72 = 51.84.
     const LegTable east{course(0.0f, 100)};
-    const struct {
-        const char *scale;
-        bool printing;
-        Units units;
-        float factor;
-    } cases[] = {
+    const struct { const char *scale; bool printing; Units units; float factor; } cases[] = {
         {"Standard", false, Units::Feet, 51.84f},
         {" 200", false, Units::Feet, 51.84f}, // on the screen a numeric scale does not change the fit
         {"1000:1", true, Units::Feet, 1.44f},  // 1440 / 1000

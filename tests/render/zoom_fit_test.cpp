@@ -28,10 +28,7 @@ TEST(ZoomFit, FitsNinetyFivePercentAndCentres)
 
 TEST(ZoomFit, Magnifications)
 {
-    struct Case {
-        const char *answer;
-        double button, menu;
-    };
+    struct Case { const char *answer; double button, menu; };
     const Case cases[] = {{"", 0.95, 0.95}, {"abc", 0.95, 0.95}, {"6", 6 / 6.3, 6.0},   {"1", 1 / 6.3, 1.0},
                           {"0", 0.95, 0.95}, {"-2", -2 / 6.3, -2.0}, {"0.6", 0.6 / 6.3, 0.6}};
     for (const Case &c : cases) {
