@@ -3,8 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace quilmar {
-namespace {
+using namespace quilmar;
 
 using CC = CurveCalculator;
 
@@ -90,6 +89,3 @@ TEST(ReciprocalAngle, ComplementsToNinetyDegrees)
     for (const char *answer : {"", "  ", "-1e9 0 0"}) // the last is beyond the 32-bit seconds range
         EXPECT_TRUE(reciprocalAngle(answer).isEmpty()) << answer;
 }
-
-} // namespace
-} // namespace quilmar

@@ -6,8 +6,7 @@
 
 #include "vb_math.h"
 
-namespace quilmar {
-namespace {
+using namespace quilmar;
 
 // Converted values are hundredths: each is checked to 1e-9.
 TEST(GlobalConversion, RoundsToHundredthsHalfToEven)
@@ -84,6 +83,3 @@ TEST(GlobalConversion, TypeMismatchStopsWhereItIs)
     EXPECT_EQ(table.at(1, ColChord), Cell("12abc"));
     EXPECT_EQ(table.at(1, ColRadius), Cell("10"));                // after it: untouched
 }
-
-} // namespace
-} // namespace quilmar

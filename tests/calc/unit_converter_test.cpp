@@ -3,8 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace quilmar {
-namespace {
+using namespace quilmar;
 
 using UC = UnitConverter;
 
@@ -50,6 +49,3 @@ TEST(ShortcutConversion, ConvertsTheFieldOnly)
     for (const char *text : {"", "N", "12abc", " "})
         EXPECT_TRUE(runShortcut(ShortcutConversion::ChainsLinks, text).isEmpty()) << '"' << text << '"';
 }
-
-} // namespace
-} // namespace quilmar

@@ -8,8 +8,7 @@
 
 #include "vb_math.h"
 
-namespace quilmar {
-namespace {
+using namespace quilmar;
 
 // Expected texts: the decimal value rounded by hand, half away from zero, at the last place shown.
 TEST(FormatNumber, FormatsAsTheClassicFormatter)
@@ -62,6 +61,3 @@ TEST(GeneralNumber, ShortestFifteenDigitText)
     for (const auto &[value, text] : cases)
         EXPECT_EQ(generalNumber(value), text) << value;
 }
-
-} // namespace
-} // namespace quilmar

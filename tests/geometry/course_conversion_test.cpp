@@ -65,10 +65,8 @@ TEST(CourseConversion, RowsThatAreNoCourseGetNoDirection)
         {"", "", "", "", "", "100", "", "100", "", ""}, // tangent curve without L/R
         {"", "", "", "", "", "-5", "", "", "", ""},     // tangent with a negative distance
     }));
-    EXPECT_FALSE(legs[0].direction);
-    EXPECT_FALSE(legs[1].direction);
-    EXPECT_FALSE(legs[2].direction);
-    EXPECT_FALSE(legs[5].direction);
+    for (int row : {0, 1, 2, 5}) // and an empty row
+        EXPECT_FALSE(legs[row].direction) << row;
 }
 
 TEST(CourseConversion, CourseNumbersSkipNewLotsAndBareBeginnings)
@@ -104,23 +102,18 @@ TEST(CourseConversion, CurveCompletion)
     EXPECT_EQ(messages[0], "Error in calc of gap");
 }
 
-TEST(CourseConversion, HighestIsCappedAt200)
+TEST(CourseConversion, HighestIsCappedAt200AndSingleRangeOverflows)
 {
     CourseTable t;
     t.at(201, ColDistance) = "5";
     t.gethighest();
     ASSERT_EQ(t.highest, 202);
-    LegTable legs = convertCourses(t, [](const std::string &) {});
+    EXPECT_EQ(convertCourses(t, [](const std::string &) {}).size(), 202u); // rows 0 to 201
     EXPECT_EQ(t.highest, 200);
-    EXPECT_EQ(legs.size(), 202u); // rows 0 to 201
-}
 
-TEST(CourseConversion, NumbersBeyondSingleRangeAreAnOverflow)
-{
-    CourseTable t = makeTable({{"N", "1e39", "", "", "E", "100", "", "", "", ""}});
     try {
-        convertCourses(t, [](const std::string &) {});
-        FAIL() << "no fault";
+        convert(makeTable({{"N", "1e39", "", "", "E", "100", "", "", "", ""}}));
+        ADD_FAILURE() << "no fault";
     } catch (const VbError &e) {
         EXPECT_EQ(e.number(), 6);
     }

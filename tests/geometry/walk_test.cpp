@@ -159,17 +159,11 @@ TEST(Walk, HalfCircleByChordIsDrawnAndAShorterRadiusStopsTheWalk)
 TEST(Walk, AreaSignFollowsTheDirectionOfTravel)
 {
     auto square = [](const char *a, const char *b, const char *c, const char *d) {
-        return walk(makeTable({
-                        {"", "", "", "", "", "", "", "", "", "B"},
-                        {a, "", "", "", "", "100", "", "", "", ""},
-                        {b, "", "", "", "", "100", "", "", "", ""},
-                        {c, "", "", "", "", "100", "", "", "", ""},
-                        {d, "", "", "", "", "100", "", "", "", ""},
-                    }))
+        return walk(makeTable({{"", "", "", "", "", "", "", "", "", "B"}, {a, "", "", "", "", "100", "", "", "", ""},
+                               {b, "", "", "", "", "100", "", "", "", ""}, {c, "", "", "", "", "100", "", "", "", ""},
+                               {d, "", "", "", "", "100", "", "", "", ""}}))
             .state.areaSum;
     };
-    const float clockwise = square("N", "E", "S", "W");
-    const float counter = square("N", "W", "S", "E");
-    EXPECT_NEAR(clockwise, 10000.0f, 0.01);
-    EXPECT_NEAR(counter, -10000.0f, 0.01);
+    EXPECT_NEAR(square("N", "E", "S", "W"), 10000.0f, 0.01);  // clockwise
+    EXPECT_NEAR(square("N", "W", "S", "E"), -10000.0f, 0.01); // counter-clockwise
 }

@@ -2,7 +2,8 @@
 
 #include "cp1252.h"
 
-namespace quilmar {
+using namespace quilmar;
+
 namespace {
 
 using namespace std::string_literals;
@@ -51,4 +52,3 @@ TEST(Cp1252, UnmappableAndMalformedBecomeQuestionMarks)
 }
 
 } // namespace
-} // namespace quilmar

@@ -7,21 +7,15 @@
 #include "table_builder.h"
 #include "temp_folder.h"
 
-namespace quilmar {
+using namespace quilmar;
+
 namespace {
 
 namespace fs = std::filesystem;
 using namespace std::string_literals;
 
-const std::string kBlankLine = std::string(9, '\t') + "\r\n";
-
-std::string repeat(const std::string &s, int n)
-{
-    std::string out;
-    for (int i = 0; i < n; ++i)
-        out += s;
-    return out;
-}
+// @p n course lines of ten empty cells.
+std::string blankLines(int n) { return n > 0 ? blankLines(n - 1) + std::string(9, '\t') + "\r\n" : ""; }
 
 class MapFileTest : public ::testing::Test {
 protected:
@@ -42,7 +36,7 @@ TEST(MapFileBytes, Tail)
     };
     for (const auto &c : cases) {
         const std::string bytes = mapFileBytes(CourseTable{}, c.description, c.unit, c.scale);
-        EXPECT_EQ(bytes, repeat(kBlankLine, 16) + c.tail) << c.description;
+        EXPECT_EQ(bytes, blankLines(16) + c.tail) << c.description;
     }
 }
 
@@ -64,7 +58,7 @@ TEST(MapFileBytes, CourseLinesEndAtHighestPlusFiveClippedAtRow201)
         CourseTable table;
         table.highest = static_cast<int16_t>(highest);
         const std::string bytes = mapFileBytes(table, "", Units::Feet, "Standard");
-        EXPECT_EQ(bytes, repeat(kBlankLine, lines) + "~\r\n*spec=0Standard\r\n") << highest;
+        EXPECT_EQ(bytes, blankLines(lines) + "~\r\n*spec=0Standard\r\n") << highest;
     }
 }
 
@@ -111,13 +105,8 @@ TEST_F(MapFileTest, EachSaveAndOpenAddsOneTrailingLineBreak)
 
 TEST_F(MapFileTest, ReadsLinesOfEveryShape)
 {
-    struct Case {
-        const char *what;
-        std::string bytes;
-        std::vector<MapFileRow> rows;
-        bool reached;
-        std::string description;
-    };
+    struct Case { const char *what; std::string bytes; std::vector<MapFileRow> rows; bool reached;
+                  std::string description; };
     const MapFileRow nRow{"N", "1"};
     const Case cases[] = {
         {"CR LF", "N\t1\r\n~Lot\r\n*spec=0x\r\n", {nRow}, true, "Lot\r\n*spec=0x"},
@@ -144,7 +133,7 @@ TEST_F(MapFileTest, ReadsLinesOfEveryShape)
     }
 }
 
-TEST_F(MapFileTest, CourseLinesPastRow201AreDroppedAndTheDescriptionStillFound)
+TEST_F(MapFileTest, LinesPastRow201AreDroppedAndALongLineKept)
 {
     std::string bytes;
     for (int r = 0; r < 250; ++r)
@@ -155,14 +144,11 @@ TEST_F(MapFileTest, CourseLinesPastRow201AreDroppedAndTheDescriptionStillFound)
     EXPECT_EQ(read.rows[201][0], "201");
     EXPECT_EQ(read.droppedRows, 48u); // 250 - 202
     EXPECT_EQ(read.description, "d");
-}
-
-TEST_F(MapFileTest, OneMegabyteLineIsKept)
-{
-    const MapReadResult read = readMapFile(put(std::string(1 << 20, 'x') + "\tE"));
-    ASSERT_EQ(read.rows.size(), 1u);
-    EXPECT_EQ(read.rows[0][0].size(), 1u << 20);
-    EXPECT_EQ(read.rows[0][1], "E");
+    // A one-megabyte line is kept whole.
+    const MapReadResult wide = readMapFile(put(std::string(1 << 20, 'x') + "\tE", "wide.map"));
+    ASSERT_EQ(wide.rows.size(), 1u);
+    EXPECT_EQ(wide.rows[0][0].size(), 1u << 20);
+    EXPECT_EQ(wide.rows[0][1], "E");
 }
 
 TEST_F(MapFileTest, BinaryJunkNeverBreaksTheReader)
@@ -253,4 +239,3 @@ TEST(WithMapExtension, AddsMapUnlessFourthCharacterFromEndIsAPoint)
 }
 
 } // namespace
-} // namespace quilmar

@@ -10,7 +10,8 @@
 #include "safe_file.h"
 #include "temp_folder.h"
 
-namespace quilmar {
+using namespace quilmar;
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -107,4 +108,3 @@ TEST_F(SafeFileTest, ReadNamesItsReason)
 }
 
 } // namespace
-} // namespace quilmar

@@ -4,8 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace quilmar {
-namespace {
+using namespace quilmar;
 
 // Guards against a sample loaded over a longer table keeping the old rows.
 TEST(DemoSamples, LoadingOverALongTableLeavesNoTrace)
@@ -27,6 +26,3 @@ TEST(DemoSamples, LoadingOverALongTableLeavesNoTrace)
     EXPECT_THROW(demoSample(0), std::out_of_range); // samples 1 to 6 only
     EXPECT_THROW(demoSample(7), std::out_of_range);
 }
-
-} // namespace
-} // namespace quilmar
