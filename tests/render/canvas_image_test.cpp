@@ -5,7 +5,8 @@
 
 #include "canvas_image.h"
 
-namespace quilmar {
+using namespace quilmar;
+
 namespace {
 
 constexpr Rgb kBlue{0, 0, 128}, kGrey{192, 192, 192}, kWhite{255, 255, 255};
@@ -18,20 +19,15 @@ Rgb pixel(const QImage &image, int x, int y)
 
 // A blue leg for the screen along twip row 300 and one for the printer only
 // along twip row 0, both from x 0 to 1500 twips.
-Figure twoLegs()
-{
-    Figure f;
-    f.items.push_back({FigLine{{0, 300}, {1500, 300}}, Palette::Blue, Target::Screen});
-    f.items.push_back({FigLine{{0, 0}, {1500, 0}}, Palette::Blue, Target::Printer});
-    return f;
-}
+const Figure kTwoLegs{{{FigLine{{0, 300}, {1500, 300}}, Palette::Blue, Target::Screen},
+                       {FigLine{{0, 0}, {1500, 0}}, Palette::Blue, Target::Printer}}};
 
 TEST(CanvasImage, PaintsScreenItemsOnTheBackgroundOfTheGivenSize)
 {
     // Origin (-300, -150): the leg spans pixel columns (0 + 300)/15 = 20 to
     // (1500 + 300)/15 = 120 on row (300 + 150)/15 = 30; the printer's leg would
     // lie on row (0 + 150)/15 = 10.
-    const QImage image = renderFigureImage(twoLegs(), CanvasView{-300, -150, 3000, 1500}, kCanvasGrey);
+    const QImage image = renderFigureImage(kTwoLegs, CanvasView{-300, -150, 3000, 1500}, kCanvasGrey);
     ASSERT_EQ(image.size(), QSize(200, 100));
     EXPECT_EQ(pixel(image, 50, 30), kBlue);
     EXPECT_EQ(pixel(image, 10, 30), kGrey);
@@ -41,21 +37,21 @@ TEST(CanvasImage, PaintsScreenItemsOnTheBackgroundOfTheGivenSize)
     EXPECT_EQ(copy.size(), QSize(201, 100));
     EXPECT_EQ(pixel(copy, 0, 0), kWhite);
     // Bad sizes give no image.
-    EXPECT_TRUE(renderFigureImage(twoLegs(), CanvasView{0, 0, 0, 1500}, kCanvasGrey).isNull());
-    EXPECT_TRUE(renderFigureImage(twoLegs(), CanvasView{0, 0, 3000, -1}, kCanvasGrey).isNull());
-    EXPECT_TRUE(renderFigureImage(twoLegs(), CanvasView{0, 0, 3000, 1500}, kCanvasGrey, 0).isNull());
+    EXPECT_TRUE(renderFigureImage(kTwoLegs, CanvasView{0, 0, 0, 1500}, kCanvasGrey).isNull());
+    EXPECT_TRUE(renderFigureImage(kTwoLegs, CanvasView{0, 0, 3000, -1}, kCanvasGrey).isNull());
+    EXPECT_TRUE(renderFigureImage(kTwoLegs, CanvasView{0, 0, 3000, 1500}, kCanvasGrey, 0).isNull());
 }
 
 TEST(CanvasImage, WritesPngAndSvgFiles)
 {
     QTemporaryDir dir;
     ASSERT_TRUE(dir.isValid());
-    ASSERT_TRUE(writeFigurePng(dir.filePath("map.png"), twoLegs(), CanvasView{0, 0, 3000, 1500}, kCanvasGrey).ok);
+    ASSERT_TRUE(writeFigurePng(dir.filePath("map.png"), kTwoLegs, CanvasView{0, 0, 3000, 1500}, kCanvasGrey).ok);
     const QImage back(dir.filePath("map.png"));
     ASSERT_EQ(back.size(), QSize(200, 100));
     EXPECT_EQ(pixel(back, 50, 20), kBlue); // twip row 300 / 15
 
-    ASSERT_TRUE(writeFigureSvg(dir.filePath("map.svg"), twoLegs(), CanvasView{0, 0, 3000, 1500}, kCanvasGrey).ok);
+    ASSERT_TRUE(writeFigureSvg(dir.filePath("map.svg"), kTwoLegs, CanvasView{0, 0, 3000, 1500}, kCanvasGrey).ok);
     QFile file(dir.filePath("map.svg"));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QString svg = QString::fromUtf8(file.readAll());
@@ -64,9 +60,8 @@ TEST(CanvasImage, WritesPngAndSvgFiles)
     EXPECT_TRUE(svg.contains("#c0c0c0")) << "background not filled";
     EXPECT_TRUE(svg.contains("#000080") && (svg.contains("<polyline") || svg.contains("<path")));
 
-    EXPECT_FALSE(writeFigurePng(dir.filePath("missing/map.png"), twoLegs(), CanvasView{0, 0, 3000, 1500}, kCanvasGrey).ok);
-    EXPECT_FALSE(writeFigureSvg(dir.filePath("missing/map.svg"), twoLegs(), CanvasView{0, 0, 3000, 1500}, kCanvasGrey).ok);
+    EXPECT_FALSE(writeFigurePng(dir.filePath("missing/map.png"), kTwoLegs, CanvasView{0, 0, 3000, 1500}, kCanvasGrey).ok);
+    EXPECT_FALSE(writeFigureSvg(dir.filePath("missing/map.svg"), kTwoLegs, CanvasView{0, 0, 3000, 1500}, kCanvasGrey).ok);
 }
 
 } // namespace
-} // namespace quilmar

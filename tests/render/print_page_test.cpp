@@ -1,10 +1,11 @@
 // The printed map page through the recording surface: the arrow's steps, the
 // caption's texts, the heading's words, where the map and the list go, and the
-// list's second page.
+// list's later pages.
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <string>
 #include <vector>
 
@@ -129,10 +130,9 @@ TEST(PrintPage, PaintsFigureAtTheMapAreaAndTheListInTwoColumns)
     text.scaleCaption = "Scale = 1:100 (Feet)";
     text.highest = 10;
     text.listEntries = {"1  N 10", "2  E 20", "New", "3  S 30", "4  W 40"};
-    Figure figure;
-    figure.items.push_back({FigLine{{0, 0}, {300, 0}}, Palette::Blue, Target::Both});
-    figure.items.push_back({FigText{{-180, 0}, 0, "1 "}, Palette::Blue, Target::Printer});
-    figure.items.push_back({FigText{{300, 0}, 0, "x"}, Palette::Red, Target::Screen});
+    const Figure figure{{{FigLine{{0, 0}, {300, 0}}, Palette::Blue, Target::Both},
+                         {FigText{{-180, 0}, 0, "1 "}, Palette::Blue, Target::Printer},
+                         {FigText{{300, 0}, 0, "x"}, Palette::Red, Target::Screen}}};
 
     RecordingSurface s;
     const MapPageLayout layout = planMapPage(s, kLetterPage, text);
@@ -159,17 +159,16 @@ TEST(PrintPage, PaintsFigureAtTheMapAreaAndTheListInTwoColumns)
     const std::vector<std::string> texts = callsStarting(page, "#000000 text");
     ASSERT_GE(texts.size(), 6u);
     const float top = layout.listTop + 190.125f;
-    auto entryAt = [&](const std::string &call) {
-        const size_t a = call.find(' ', 13), b = call.find(' ', a + 1);
-        return std::pair<double, double>{std::stod(call.substr(13, a - 13)), std::stod(call.substr(a + 1, b - a - 1))};
-    };
     const std::vector<std::string> list(texts.end() - 5, texts.end());
     EXPECT_NE(list[2].find(" New"), std::string::npos);
-    EXPECT_NEAR(entryAt(list[0]).first, 360, 0.01);
-    EXPECT_NEAR(entryAt(list[0]).second, top, 0.01);
-    EXPECT_NEAR(entryAt(list[2]).second, top + 2 * 190.125, 0.01);
-    EXPECT_NEAR(entryAt(list[3]).first, 360 + (11520 - 720) / 2, 0.01);
-    EXPECT_NEAR(entryAt(list[3]).second, top, 0.01);
+    const struct { int entry; double x, y; } places[] = {
+        {0, 360, top}, {2, 360, top + 2 * 190.125}, {3, 360 + (11520 - 720) / 2, top}};
+    for (const auto &p : places) {
+        double x = 0, y = 0;
+        ASSERT_EQ(std::sscanf(list[p.entry].c_str(), "#000000 text %lf %lf", &x, &y), 2) << list[p.entry];
+        EXPECT_NEAR(x, p.x, 0.01) << p.entry;
+        EXPECT_NEAR(y, p.y, 0.01) << p.entry;
+    }
     EXPECT_EQ(countOf(page, "newPage"), 0);
 }
 
@@ -212,17 +211,15 @@ TEST(TextPages, BreaksPagesWhenTheNextLineWouldPassTheBottomMargin)
 TEST(PrintPage, MapLargerThanTheAreaStartsAtItsTopAndLeft)
 {
     const PageRect area{360, 3000, 10800, 9000};
-    Figure figure;
-    // 2000 wide, 12000 tall from (-1000, -6000): too tall, not too wide
-    figure.items.push_back({FigLine{{-1000, -6000}, {1000, 6000}}, Palette::Blue, Target::Both});
-    // a screen-only item far away changes nothing
-    figure.items.push_back({FigLine{{-90000, -90000}, {0, 0}}, Palette::Blue, Target::Screen});
+    // 2000 wide, 12000 tall from (-1000, -6000): too tall, not too wide; a
+    // screen-only item far away changes nothing
+    const Figure figure{{{FigLine{{-1000, -6000}, {1000, 6000}}, Palette::Blue, Target::Both},
+                         {FigLine{{-90000, -90000}, {0, 0}}, Palette::Blue, Target::Screen}}};
     const PointF tall = figureOrigin(area, figure, -5000, -7000);
     EXPECT_FLOAT_EQ(tall.x, -5000 - 360);  // centred across by the fit
     EXPECT_FLOAT_EQ(tall.y, -6000 - 3000); // top of the map at the area's top
     // an arc's box is its sweep's: the upper half of a circle of 7000 round (0, 0)
-    Figure arc;
-    arc.items.push_back({FigArc{{0, 0}, 7000, 0.0, 3.14159265}, Palette::Blue, Target::Both});
+    const Figure arc{{{FigArc{{0, 0}, 7000, 0.0, 3.14159265}, Palette::Blue, Target::Both}}};
     const PointF wide = figureOrigin(area, arc, -100, -200);
     EXPECT_NEAR(wide.x, -7000 - 360, 0.01);
     EXPECT_FLOAT_EQ(wide.y, -200 - 3000); // 7000 tall fits in 9000

