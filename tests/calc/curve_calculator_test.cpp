@@ -36,7 +36,7 @@ TEST(CurveCalculator, ComputesTheResultLine)
     }
 }
 
-TEST(CurveCalculator, MessagesChangeNothing)
+TEST(CurveCalculator, BadAnswersChangeNothing)
 {
     const struct { CurveCalculator c; const char *answer, *message; } cases[] = {
         {CC::Arc, "100 49", "Chord cannot be longer than 2 x radius"},
@@ -49,10 +49,7 @@ TEST(CurveCalculator, MessagesChangeNothing)
         EXPECT_EQ(r.messages, std::vector<std::string>{c.message}) << c.answer;
         EXPECT_FALSE(r.acresbox || r.clipboard) << c.answer;
     }
-}
-
-TEST(CurveCalculator, EmptyAnswersAndFaultsChangeNothing)
-{
+    // Empty answers and faults change nothing and say nothing.
     for (CurveCalculator c : {CC::Arc, CC::Chord, CC::Angle, CC::Tangent})
         for (const char *answer : {"", "   ", "1e39 5"}) // the last is beyond single range
             EXPECT_TRUE(runCurveCalculator(c, answer).isEmpty()) << answer;

@@ -27,10 +27,7 @@ TEST(UnitConverter, ConvertsAndReportsAsTyped)
         EXPECT_EQ(r.acresbox, c.acresbox);
         EXPECT_TRUE(r.messages.empty() && !r.field) << c.answer;
     }
-}
-
-TEST(UnitConverter, BadAnswersChangeNothing)
-{
+    // Bad answers change nothing.
     for (const char *answer : {"", "   ", "abc", "12abc", "1,5", "1e400"})
         EXPECT_TRUE(runConverter(UC::Chains, answer).isEmpty()) << '"' << answer << '"';
 }

@@ -50,20 +50,17 @@ TEST(DeedRobustness, InvalidUtf8AndRandomBytes)
     }
 }
 
-TEST(DeedText, LineColumnCountsCharacters)
+TEST(DeedText, LineColumnCountsCharactersAndQuotesCollapseBlanks)
 {
     const std::string text = "ab\r\nc°d\re";
     EXPECT_EQ(lineColumnOf(text, 0).line, 1u);
     EXPECT_EQ(lineColumnOf(text, 4).line, 2u);
     EXPECT_EQ(lineColumnOf(text, 7).column, 3u); // after "c°": ° is one character
     EXPECT_EQ(lineColumnOf(text, 9).line, 3u);
-}
-
-TEST(DeedText, QuoteCollapsesBlanks)
-{
-    const std::string text = "thence  N 10 E\n   100 feet";
-    EXPECT_EQ(quoteSpan(text, {0, text.size()}), "thence N 10 E 100 feet");
-    EXPECT_EQ(quoteSpan(text, {0, text.size()}, 6), "thence...");
+    // A quote collapses blanks.
+    const std::string call = "thence  N 10 E\n   100 feet";
+    EXPECT_EQ(quoteSpan(call, {0, call.size()}), "thence N 10 E 100 feet");
+    EXPECT_EQ(quoteSpan(call, {0, call.size()}, 6), "thence...");
 }
 
 } // namespace

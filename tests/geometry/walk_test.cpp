@@ -40,8 +40,7 @@ template <class T> std::vector<T> itemsOf(const Figure &f)
 Walked corner(test::Row close)
 {
     return walk(makeTable({{"", "", "", "", "", "", "", "", "", "B"},
-                           {"E", "", "", "", "", "100", "", "", "", ""},
-                           {"S", "", "", "", "", "100", "", "", "", ""},
+                           {"E", "", "", "", "", "100", "", "", "", ""}, {"S", "", "", "", "", "100", "", "", "", ""},
                            close}));
 }
 
@@ -80,10 +79,8 @@ TEST(Curves, QuarterCircleCentreLiesOnTheSideOfTheBend)
 TEST(Walk, BeginningNewLotAndOrigin)
 {
     Walked w = walk(makeTable({
-        {"E", "", "", "", "", "100", "", "", "", "O"},
-        {"N", "", "", "", "", "50", "", "", "", "B"},
-        {"E", "", "", "", "", "10", "", "", "", ""},
-        {"", "", "", "", "", "", "", "", "", "N"},
+        {"E", "", "", "", "", "100", "", "", "", "O"}, {"N", "", "", "", "", "50", "", "", "", "B"},
+        {"E", "", "", "", "", "10", "", "", "", ""}, {"", "", "", "", "", "", "", "", "", "N"},
         {"S", "", "", "", "", "20", "", "", "", ""},
     }));
     EXPECT_EQ(w.stop, WalkStop::None);
@@ -107,7 +104,7 @@ TEST(Walk, BeginningNewLotAndOrigin)
     EXPECT_NEAR(lines[3].from.y, 0.0f, 1e-3);
 }
 
-TEST(Walk, StraightCloseReturnsToTheBeginning)
+TEST(Walk, StraightAndCurvedClosesReturnToTheBeginningOrCannotClose)
 {
     Walked w = corner({"N", "10", "", "", "E", "999", "", "", "", "C"}); // its own bearing is not used
     EXPECT_EQ(w.state.pen, w.state.pob);
@@ -116,10 +113,7 @@ TEST(Walk, StraightCloseReturnsToTheBeginning)
     EXPECT_TRUE(w.state.closingFlag); // only a curved close clears it
     EXPECT_NEAR(w.state.areaSum, 5000.0f, 0.01);
     EXPECT_NEAR(w.state.perimeterSum, 200.0 + std::sqrt(20000.0), 1e-3);
-}
 
-TEST(Walk, CurvedCloseAndCannotClose)
-{
     // Closing from (100, 100) to (0, 0) on radius 100 bending left cuts the
     // quarter-circle segment (7853.98 - 5000) out of the triangle's 5000.
     Walked ok = corner({"", "", "", "", "", "", "", "100", "L", "C"});

@@ -20,22 +20,14 @@ TEST(DataListing, RowsTabToTheColumnsAndWrapWhenACellIsTooLong)
               (std::vector<std::string>{"                      12345678901234", "                                  7"}));
 }
 
-TEST(DataListing, OneCourseGivesHeadingRowAndEnd)
+TEST(DataListing, HeadingRowsDescriptionAndEnd)
 {
-    const CourseTable table = test::makeTable({{"S", "", "", "", "", "1000", "", "", "", ""}});
-    const std::vector<std::string> lines = dataListingLines(table, "", 75);
     //                           1   5    10   15   20 23          35          47          59   64
     const std::string heading = "NS  Deg  Min  Sec  EW Distance    Chord       Radius      L-R  Tag";
-    const std::vector<std::string> expected{"", "", "", heading, "S                     1000", "end"};
-    EXPECT_EQ(lines, expected);
-}
-
-TEST(DataListing, DescriptionWrapsByWordsAndKeepsItsLineBreaks)
-{
-    CourseTable table;
-    const std::vector<std::string> lines = dataListingLines(table, "Lot 7 of the Oak\r\nHill  tract", 10);
-    const std::vector<std::string> expected{"", "", "Lot 7 of", "the Oak", "Hill tract", "", dataHeadingLine(), "end"};
-    EXPECT_EQ(lines, expected);
-    // A word longer than a line is cut at the line's width.
-    EXPECT_EQ(dataListingLines(table, "abcdefghijkl", 5)[2], "abcde");
+    EXPECT_EQ(dataListingLines(test::makeTable({{"S", "", "", "", "", "1000", "", "", "", ""}}), "", 75),
+              (std::vector<std::string>{"", "", "", heading, "S                     1000", "end"}));
+    // The description wraps by words and keeps its line breaks; a word longer than a line is cut.
+    EXPECT_EQ(dataListingLines(CourseTable{}, "Lot 7 of the Oak\r\nHill  tract", 10),
+              (std::vector<std::string>{"", "", "Lot 7 of", "the Oak", "Hill tract", "", heading, "end"}));
+    EXPECT_EQ(dataListingLines(CourseTable{}, "abcdefghijkl", 5)[2], "abcde");
 }

@@ -25,7 +25,7 @@ protected:
     const fs::path &m_dir = m_folder.path();
 };
 
-TEST(MapFileBytes, Tail)
+TEST(MapFileBytes, TailAndCells)
 {
     struct Case { std::string description; Units unit; std::string scale; std::string tail; };
     const Case cases[] = {
@@ -38,10 +38,7 @@ TEST(MapFileBytes, Tail)
         const std::string bytes = mapFileBytes(CourseTable{}, c.description, c.unit, c.scale);
         EXPECT_EQ(bytes, blankLines(16) + c.tail) << c.description;
     }
-}
-
-TEST(MapFileBytes, CellsOfOneLine)
-{
+    // The cells of one line.
     CourseTable table = test::makeTable({{"N", "12", "30", "0", "E", "", "", "", "", "B"}});
     table.at(0, ColDistance) = 328.1;           // a number cell, as global conversion leaves it
     table.at(0, ColRadius) = "a\tb\xC3\xA9";    // TAB would split the line: written as a space

@@ -7,7 +7,7 @@
 
 using namespace quilmar;
 
-TEST(DeviceMapping, MapsDrawingPointsToDeviceAndBack)
+TEST(DeviceMapping, MapsPointsAndLengthsToDeviceAndBack)
 {
     const struct { DeviceMapping mapping; PointF drawing, device; } cases[] = { // twips, device units
         // Origin (-360, -1080) at 15 twips a pixel: 360/15 = 24, 1080/15 = 72.
@@ -27,10 +27,7 @@ TEST(DeviceMapping, MapsDrawingPointsToDeviceAndBack)
         EXPECT_NEAR(back.x, c.drawing.x, 1e-3);
         EXPECT_NEAR(back.y, c.drawing.y, 1e-3);
     }
-}
-
-TEST(DeviceMapping, LengthsIgnoreTheOriginAndTheLeftEdgeMovesOnlyX)
-{
+    // Lengths ignore the origin; the left edge moves only x.
     DeviceMapping m = DeviceMapping::forPixels(-360, -1080);
     EXPECT_NEAR(m.toDeviceLength(30), 2.0, 1e-12);   // 30/15
     EXPECT_NEAR(m.toDrawingLength(13), 195.0, 1e-9); // 13*15
