@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <map>
 #include <numbers>
@@ -116,15 +117,13 @@ bool plant(BlunderKind kind, std::vector<Cells> &rows, int row, std::mt19937 &rn
     auto pick = [&](size_t n) { return std::uniform_int_distribution<size_t>(0, n - 1)(rng); };
     switch (kind) {
     case BlunderKind::NsFlip:
+    case BlunderKind::EwFlip: {
         if (c[4].empty())
             return false;
-        c[0] = c[0] == "N" ? "S" : "N";
+        std::string &code = kind == BlunderKind::NsFlip ? c[0] : c[4];
+        code = code == "N" ? "S" : code == "S" ? "N" : code == "E" ? "W" : "E";
         return true;
-    case BlunderKind::EwFlip:
-        if (c[4].empty())
-            return false;
-        c[4] = c[4] == "E" ? "W" : "E";
-        return true;
+    }
     case BlunderKind::DegMinSwap:
         if (value(c[1]) >= 60 || c[1] == c[2])
             return false;
@@ -171,17 +170,16 @@ bool plant(BlunderKind kind, std::vector<Cells> &rows, int row, std::mt19937 &rn
     return false;
 }
 
+// Whether one of the top three suggestions puts back @p original (an omitted call: its length).
 bool found(const LotReport &lot, BlunderKind kind, int row, const Cells &original)
 {
-    for (size_t i = 0; i < lot.suggestions.size() && i < 3; ++i) {
-        const Suggestion &s = lot.suggestions[i];
-        const double length = std::max(value(original[ColDistance - 1]), value(original[ColChord - 1]));
-        if (kind == BlunderKind::Omitted ? s.kind == BlunderKind::Omitted &&
-                                               std::fabs(value(s.cells[ColDistance - 1]) - length) < 0.05
-                                         : s.row == row && sameCall(s.cells, original))
-            return true;
-    }
-    return false;
+    const double length = std::max(value(original[ColDistance - 1]), value(original[ColChord - 1]));
+    return std::any_of(lot.suggestions.begin(), lot.suggestions.begin() + std::min<size_t>(3, lot.suggestions.size()),
+                       [&](const Suggestion &s) {
+                           return kind == BlunderKind::Omitted
+                                      ? s.kind == kind && std::fabs(value(s.cells[ColDistance - 1]) - length) < 0.05
+                                      : s.row == row && sameCall(s.cells, original);
+                       });
 }
 
 // Generated deeds with one mistake each, of every kind in turn; only mistakes

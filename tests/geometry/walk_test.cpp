@@ -129,9 +129,8 @@ TEST(Walk, StraightAndCurvedClosesReturnToTheBeginningOrCannotClose)
         EXPECT_NEAR(bad.state.pen.x, 100.0f, 1e-3); // left open
         auto texts = itemsOf<FigText>(bad.figure);
         ASSERT_EQ(texts.size(), 3u);
-        EXPECT_EQ(texts[0].text, "x");
-        EXPECT_EQ(texts[1].text, "CANNOT CLOSE.");
-        EXPECT_EQ(texts[2].text, std::string(lr) == "L" ? "Error in curve" : "Error int curve");
+        EXPECT_EQ((std::vector<std::string>{texts[0].text, texts[1].text, texts[2].text}),
+                  (std::vector<std::string>{"x", "CANNOT CLOSE.", std::string(lr) == "L" ? "Error in curve" : "Error int curve"}));
         EXPECT_EQ(texts[2].lineOffset, 1);
         EXPECT_EQ(itemsOf<FigScaleLeft>(bad.figure).at(0).left, -360.0f);
     }

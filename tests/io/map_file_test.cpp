@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <random>
+#include <tuple>
 
 #include "map_file.h"
 #include "table_builder.h"
@@ -123,10 +124,8 @@ TEST_F(MapFileTest, ReadsLinesOfEveryShape)
     for (const auto &c : cases) {
         const MapReadResult read = readMapFile(put(c.bytes));
         ASSERT_EQ(read.status, MapReadStatus::Ok) << c.what;
-        EXPECT_EQ(read.rows, c.rows) << c.what;
-        EXPECT_EQ(read.reachedDescription, c.reached) << c.what;
-        EXPECT_EQ(read.description, c.description) << c.what;
-        EXPECT_EQ(read.droppedRows, 0u) << c.what;
+        EXPECT_EQ(std::tuple(read.rows, read.reachedDescription, read.description, read.droppedRows),
+                  std::tuple(c.rows, c.reached, c.description, 0u)) << c.what;
     }
 }
 
@@ -200,10 +199,8 @@ TEST(SplitTail, TakesUnitScaleAndDescriptionApart)
     };
     for (const auto &c : cases) {
         const TailSplit s = splitTail(c.text);
-        EXPECT_EQ(s.found, c.found) << c.text;
-        EXPECT_EQ(s.unit, c.unit) << c.text;
-        EXPECT_EQ(s.scale, c.scale) << c.text;
-        EXPECT_EQ(s.description, c.description) << c.text;
+        EXPECT_EQ(std::tuple(s.found, s.unit, s.scale, s.description),
+                  std::tuple(c.found, c.unit, c.scale, c.description)) << c.text;
     }
 }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <optional>
+#include <tuple>
 
 #include "temp_folder.h"
 
@@ -73,8 +74,8 @@ TEST_F(Settings, TextAndFileReadTheSame)
         const SettingsValues fromFile = read(c.content);
         if (c.scales)
             EXPECT_EQ(fromText.scales, *c.scales) << ::testing::PrintToString(c.content);
-        EXPECT_EQ(fromText.scales, fromFile.scales) << ::testing::PrintToString(c.content);
-        EXPECT_EQ(fromText.scaleMetric, fromFile.scaleMetric) << ::testing::PrintToString(c.content);
-        EXPECT_EQ(fromText.printOptions, fromFile.printOptions) << ::testing::PrintToString(c.content);
+        EXPECT_EQ(std::tuple(fromText.scales, fromText.scaleMetric, fromText.printOptions),
+                  std::tuple(fromFile.scales, fromFile.scaleMetric, fromFile.printOptions))
+            << ::testing::PrintToString(c.content);
     }
 }

@@ -9,13 +9,7 @@ using namespace quilmar;
 
 namespace {
 
-constexpr Rgb kBlue{0, 0, 128}, kGrey{192, 192, 192}, kWhite{255, 255, 255};
-
-Rgb pixel(const QImage &image, int x, int y)
-{
-    const QColor c = image.pixelColor(x, y);
-    return {uint8_t(c.red()), uint8_t(c.green()), uint8_t(c.blue())};
-}
+const QColor kBlue(0, 0, 128), kGrey(192, 192, 192), kWhite(255, 255, 255);
 
 // A blue leg for the screen along twip row 300 and one for the printer only
 // along twip row 0, both from x 0 to 1500 twips.
@@ -29,13 +23,13 @@ TEST(CanvasImage, PaintsScreenItemsOnTheBackgroundOfTheGivenSize)
     // lie on row (0 + 150)/15 = 10.
     const QImage image = renderFigureImage(kTwoLegs, CanvasView{-300, -150, 3000, 1500}, kCanvasGrey);
     ASSERT_EQ(image.size(), QSize(200, 100));
-    EXPECT_EQ(pixel(image, 50, 30), kBlue);
-    EXPECT_EQ(pixel(image, 10, 30), kGrey);
-    EXPECT_EQ(pixel(image, 50, 10), kGrey);
+    EXPECT_EQ(image.pixelColor(50, 30), kBlue);
+    EXPECT_EQ(image.pixelColor(10, 30), kGrey);
+    EXPECT_EQ(image.pixelColor(50, 10), kGrey);
     // The bitmap copy: white; 3001 twips need a 201st pixel, 1490 round up to 100.
     const QImage copy = renderFigureImage(Figure{}, CanvasView{0, 0, 3001, 1490}, kBitmapWhite);
     EXPECT_EQ(copy.size(), QSize(201, 100));
-    EXPECT_EQ(pixel(copy, 0, 0), kWhite);
+    EXPECT_EQ(copy.pixelColor(0, 0), kWhite);
     // Bad sizes give no image.
     EXPECT_TRUE(renderFigureImage(kTwoLegs, CanvasView{0, 0, 0, 1500}, kCanvasGrey).isNull());
     EXPECT_TRUE(renderFigureImage(kTwoLegs, CanvasView{0, 0, 3000, -1}, kCanvasGrey).isNull());
@@ -49,7 +43,7 @@ TEST(CanvasImage, WritesPngAndSvgFiles)
     ASSERT_TRUE(writeFigurePng(dir.filePath("map.png"), kTwoLegs, CanvasView{0, 0, 3000, 1500}, kCanvasGrey).ok);
     const QImage back(dir.filePath("map.png"));
     ASSERT_EQ(back.size(), QSize(200, 100));
-    EXPECT_EQ(pixel(back, 50, 20), kBlue); // twip row 300 / 15
+    EXPECT_EQ(back.pixelColor(50, 20), kBlue); // twip row 300 / 15
 
     ASSERT_TRUE(writeFigureSvg(dir.filePath("map.svg"), kTwoLegs, CanvasView{0, 0, 3000, 1500}, kCanvasGrey).ok);
     QFile file(dir.filePath("map.svg"));

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "test_legs.h"
 #include "zoom_fit.h"
 
@@ -40,15 +42,10 @@ TEST(ZoomFit, Magnifications)
 TEST(ZoomFit, PictureWindowAndTheSixtyTwipJumpWhenTheDragEnds)
 {
     const ZoomPicture p = zoomPicture(11520.0f); // twice the screen height, with its scroll bars
-    EXPECT_FLOAT_EQ(p.side, 23040.0f);
-    EXPECT_EQ(p.scrollMax, 16128);
-    EXPECT_EQ(p.smallChange, 1612);
+    EXPECT_EQ(std::tuple(p.side, p.scrollMax, p.smallChange), std::tuple(23040.0f, 16128, 1612));
     EXPECT_EQ(zoomPictureOffset(1000, false), -1000);
     EXPECT_EQ(zoomPictureOffset(1000, true), -940);
     EXPECT_EQ(zoomPictureOffset(0, true), 60);
     const ZoomWindowPlacement w = zoomWindowPlacement(15360, 11520);
-    EXPECT_EQ(w.height, 10800);
-    EXPECT_EQ(w.width, 10800);
-    EXPECT_EQ(w.left, 2280);
-    EXPECT_EQ(w.top, 240);
+    EXPECT_EQ(std::tuple(w.height, w.width, w.left, w.top), std::tuple(10800, 10800, 2280, 240));
 }
