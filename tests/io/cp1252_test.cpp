@@ -16,13 +16,8 @@ struct Pair { std::string cp1252; std::string utf8; };
 TEST(Cp1252, ConvertsBothWays)
 {
     const Pair cases[] = {
-        {"N 12 E", "N 12 E"},
-        {"\xE9", "\xC3\xA9"},
-        {"45\xB0", "45\xC2\xB0"},
-        {"\x80", "\xE2\x82\xAC"},
-        {"\x9F\x8A", "\xC5\xB8\xC5\xA0"},
-        {"\x81\x9D", "\xC2\x81\xC2\x9D"},
-        {"a\0b"s, "a\0b"s},
+        {"N 12 E", "N 12 E"}, {"\xE9", "\xC3\xA9"}, {"45\xB0", "45\xC2\xB0"}, {"\x80", "\xE2\x82\xAC"},
+        {"\x9F\x8A", "\xC5\xB8\xC5\xA0"}, {"\x81\x9D", "\xC2\x81\xC2\x9D"}, {"a\0b"s, "a\0b"s},
     };
     for (const auto &c : cases) {
         EXPECT_EQ(cp1252ToUtf8(c.cp1252), c.utf8);

@@ -28,8 +28,7 @@ TEST(FigurePainter, PaintsTheItemsOfTheDeviceInOrderAndColour)
                       mark = "#000080 circle 1500 0 30", arc = "#000080 arc 1500 600 600 1.5 3",
                       end = "#800000 text 900 600 0 x";
     const struct { Target which; Calls expected; } cases[] = {
-        {Target::Screen, {line, mark, arc, end}},
-        {Target::Printer, {line, label, arc}},
+        {Target::Screen, {line, mark, arc, end}}, {Target::Printer, {line, label, arc}},
         {Target::Both, {line, label, mark, arc, end}},
     };
     for (const auto &c : cases) {

@@ -82,11 +82,7 @@ TEST(PrintPage, HeadingWrapsWordByWordAtPageWidthLess2400)
 TEST(PrintPage, LayoutPutsTheMapBelowHeadingAndCaption)
 {
     RecordingSurface s;
-    MapPageText text;
-    text.description = true;
-    text.referenceList = true;
-    text.heading = "AAAA BBBB";
-    text.highest = 10;
+    MapPageText text{.description = true, .referenceList = true, .heading = "AAAA BBBB", .highest = 10};
     const MapPageLayout layout = planMapPage(s, kLetterPage, text);
     // heading 1080 + 292.5; arrow tip 240 below, foot 540 below the tip
     EXPECT_FLOAT_EQ(layout.headingBottom, 1372.5f);
@@ -125,11 +121,8 @@ TEST(PrintPage, LayoutPutsTheMapBelowHeadingAndCaption)
 
 TEST(PrintPage, PaintsFigureAtTheMapAreaAndTheListInTwoColumns)
 {
-    MapPageText text;
-    text.referenceList = true;
-    text.scaleCaption = "Scale = 1:100 (Feet)";
-    text.highest = 10;
-    text.listEntries = {"1  N 10", "2  E 20", "New", "3  S 30", "4  W 40"};
+    const MapPageText text{.referenceList = true, .scaleCaption = "Scale = 1:100 (Feet)",
+                           .listEntries = {"1  N 10", "2  E 20", "New", "3  S 30", "4  W 40"}, .highest = 10};
     const Figure figure{{{FigLine{{0, 0}, {300, 0}}, Palette::Blue, Target::Both},
                          {FigText{{-180, 0}, 0, "1 "}, Palette::Blue, Target::Printer},
                          {FigText{{300, 0}, 0, "x"}, Palette::Red, Target::Screen}}};
@@ -174,9 +167,7 @@ TEST(PrintPage, PaintsFigureAtTheMapAreaAndTheListInTwoColumns)
 
 TEST(PrintPage, LongListGoesOverSecondAndThirdPagesUnderARule)
 {
-    MapPageText text;
-    text.referenceList = true;
-    text.highest = 200;
+    MapPageText text{.referenceList = true, .highest = 200};
     for (int i = 1; i <= 150; ++i)
         text.listEntries.push_back(std::to_string(i) + "  N 10");
     RecordingSurface s;

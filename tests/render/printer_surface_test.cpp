@@ -1,11 +1,9 @@
 // The Qt surface as a printer uses it: fonts in points whatever the device's
 // dpi, the fixed-pitch data font, pages of a PDF, and the copied map bitmap.
 
+#include <QFile>
 #include <QImage>
 #include <QPainter>
-#include <QPdfWriter>
-#include <QPrinter>
-#include <QFileInfo>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -57,23 +55,6 @@ TEST(PrinterSurface, PdfGetsOnePageForEachNewPage)
     QString error;
     EXPECT_FALSE(writePdf(QStringLiteral("/no-such-folder/x.pdf"), QPageSize::Letter, [](Surface &, PageSize) {}, &error));
     EXPECT_FALSE(error.isEmpty());
-}
-
-TEST(PrinterSurface, QPrinterTakesTheSamePages)
-{
-    // What the print dialog hands over: a QPrinter (here printing to a PDF file).
-    QTemporaryDir dir;
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(dir.filePath(QStringLiteral("printer.pdf")));
-    printer.setPageSize(QPageSize(QPageSize::Letter));
-    int pages = 0;
-    ASSERT_TRUE(paintPages(printer, [&](Surface &surface, PageSize page) {
-        EXPECT_GT(page.width, 10000.0f);
-        pages = paintTextPages(surface, page, std::vector<std::string>(200, "line"));
-    }));
-    EXPECT_GE(pages, 2);
-    EXPECT_GT(QFileInfo(printer.outputFileName()).size(), 1000);
 }
 
 TEST(MapBitmap, TwiceTheCanvasOnWhite)

@@ -16,9 +16,7 @@ FitResult fit(const LegTable &legs, const std::string &scale = "Standard", bool 
 {
     TraverseState state;
     GapShares scratch;
-    ScaleChoice choice;
-    choice.scaleText = scale;
-    choice.units = units;
+    const ScaleChoice choice{.scaleText = scale, .units = units};
     return rescaling(legs, choice, 7200.0f, 4800.0f, printing, previousFactor, state, shares ? *shares : scratch);
 }
 
@@ -76,8 +74,7 @@ TEST(Rescaling, BalanceSharesSpreadTheGapOverStraightLegs)
 
 TEST(Rescaling, AutoScaleCaption)
 {
-    ScaleChoice feet, metres;
-    metres.units = Units::Meters;
+    const ScaleChoice feet, metres{.units = Units::Meters};
     EXPECT_EQ(autoScaleCaption(feet, 14.4f), "AutoScale = 50");
     EXPECT_EQ(autoScaleCaption(metres, 14.4f), "AutoScale = 20"); // 576 / 28.8
     EXPECT_EQ(autoScaleCaption(feet, 720.0f), "");                 // 1440 / 1440 = 1 is not above 1
