@@ -19,8 +19,8 @@ std::vector<Token> numbers(std::string_view text)
     return out;
 }
 
-// The tokens as one line: numbers by value, words as repaired, marks as
-// themselves, a lost digit as "?", all else as "~".
+// The tokens as one line: numbers by value, words as repaired, marks by name,
+// a lost digit as "?", all else as "~".
 std::string shape(std::string_view text)
 {
     std::ostringstream out;
@@ -53,9 +53,12 @@ TEST(Tokenizer, NumberWordsReadAsOneNumber)
         ASSERT_EQ(n.size(), 1u) << text;
         EXPECT_DOUBLE_EQ(n[0].value, value) << text;
     }
+    const auto n = numbers("sixty (70) feet"); // words and figures that disagree are marked
+    ASSERT_EQ(n.size(), 1u);
+    EXPECT_TRUE(n[0].disagree);
 }
 
-TEST(Tokenizer, Shapes)
+TEST(Tokenizer, ShapesAndSpans)
 {
     const struct { const char *text, *shape; } cases[] = {
         // Typographic marks, the ASCII stand-ins, and a scanned "?" for the degree sign.
@@ -69,14 +72,7 @@ TEST(Tokenizer, Shapes)
     };
     for (const auto &c : cases)
         EXPECT_EQ(shape(c.text), c.shape) << c.text;
-}
-
-TEST(Tokenizer, DisagreeingFiguresAndSpans)
-{
-    const auto n = numbers("sixty (70) feet");
-    ASSERT_EQ(n.size(), 1u);
-    EXPECT_TRUE(n[0].disagree);
-
+    // Spans point into the text.
     const std::string text = "thence N 45° E";
     const auto t = tokenize(text);
     ASSERT_EQ(t.size(), 5u);

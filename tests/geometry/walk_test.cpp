@@ -15,15 +15,12 @@ namespace {
 
 struct Walked { TraverseState state; Figure figure; WalkStop stop = WalkStop::None; };
 
-Walked walk(CourseTable t, bool areaMode = true, float scale = 1.0f)
+// Walks @p t at scale 1 with the area and perimeter sums on.
+Walked walk(CourseTable t)
 {
     Walked w;
-    LegTable legs = convertCourses(t, [](const std::string &) {});
-    w.state.areaMode = areaMode;
-    w.state.perimeterMode = true;
-    WalkOptions options;
-    options.scaleFactor = scale;
-    w.stop = walkCourses(legs, options, w.state, w.figure);
+    w.state.areaMode = w.state.perimeterMode = true;
+    w.stop = walkCourses(convertCourses(t, [](const std::string &) {}), WalkOptions{}, w.state, w.figure);
     return w;
 }
 
