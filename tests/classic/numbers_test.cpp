@@ -1,4 +1,8 @@
+// The classic numbers: the leading-number rule that reads them and the formats
+// that write them.
+
 #include "number_format.h"
+#include "number_read.h"
 
 #include <cmath>
 #include <limits>
@@ -60,4 +64,23 @@ TEST(GeneralNumber, ShortestFifteenDigitText)
         {1.5e16, "1.5E+16"}, {1e100, "1E+100"}, {0.0001, "0.0001"}, {0.00001, "1E-05"}, {-1.23e-7, "-1.23E-07"}};
     for (const auto &[value, text] : cases)
         EXPECT_EQ(generalNumber(value), text) << value;
+}
+
+TEST(NumberRead, LeadingNumberRule)
+{
+    struct Case { const char *text; double value; };
+    const Case cases[] = {
+        {"", 0}, {"abc", 0}, {"12.5", 12.5}, {"  12.5", 12.5}, {"12.5ft", 12.5}, {"-3", -3}, {"+4", 4},
+        {".5", 0.5}, {"5.", 5}, {"1e3", 1000}, {"1D2", 100}, {"2e", 2}, {"1,5", 1}, {"-", 0}, {".", 0},
+        {"12 34", 12}, {"0x10", 0}, {"1e-400", 0},
+    };
+    for (const Case &c : cases)
+        EXPECT_DOUBLE_EQ(leadingNumber(c.text), c.value) << '"' << c.text << '"';
+    try {
+        leadingNumber("1e400");
+        ADD_FAILURE() << "no overflow";
+    } catch (const VbError &e) {
+        EXPECT_EQ(e.number(), 6);
+        EXPECT_EQ(e.description(), "Overflow");
+    }
 }
