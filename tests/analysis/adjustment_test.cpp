@@ -121,8 +121,7 @@ TEST(Adjustment, LotsAreCutAtNewLotRowsAndCloseWhereBeginPutThePen)
                                                            {"S", "0", "0", "0", "E", "20", "", "", "", ""},
                                                            {"N", "90", "0", "0", "W", "20", "", "", "", ""}}));
     ASSERT_EQ(report.lots.size(), 2u);
-    EXPECT_EQ(report.lots[0].firstRow, 0);
-    EXPECT_EQ(report.lots[0].lastRow, 4);
+    EXPECT_EQ(std::pair(report.lots[0].firstRow, report.lots[0].lastRow), std::pair(0, 4));
     EXPECT_NEAR(report.lots[0].pobEast, 50.0, 1e-6);
     EXPECT_NEAR(report.lots[0].gap.east, 1.0, 1e-5);
     EXPECT_EQ(report.lots[0].gap.bearing, "N 90\u00b000'00\" W");
@@ -130,8 +129,7 @@ TEST(Adjustment, LotsAreCutAtNewLotRowsAndCloseWhereBeginPutThePen)
     // (10, 9.4872), (0, 9.2308); area 94.872.
     EXPECT_NEAR(report.lots[0].compass.area, 94.872, 0.001);
     const LotReport &second = report.lots[1];
-    EXPECT_EQ(second.firstRow, 5);
-    EXPECT_EQ(second.pobRow, 0);
+    EXPECT_EQ(std::pair(second.firstRow, second.pobRow), std::pair(5, 0));
     EXPECT_NEAR(second.pobEast, 50.0, 1e-6);
     EXPECT_NEAR(second.gap.east, -50.0, 1e-5);
     EXPECT_NEAR(second.compass.calls.back().east, 50.0, 1e-9) << "the adjusted figure ends on the point of beginning";

@@ -22,7 +22,6 @@ TEST(DemoSamples, LoadingOverALongTableLeavesNoTrace)
         for (int col = 1; col <= CourseTable::kColumns; ++col)
             ASSERT_EQ(table.at(row, col), fresh.at(row, col)) << row << "," << col;
     EXPECT_EQ(table.highest, fresh.highest); // the old row count is gone too
-    EXPECT_LT(table.highest, 11);
     EXPECT_THROW(demoSample(0), std::out_of_range); // samples 1 to 6 only
     EXPECT_THROW(demoSample(7), std::out_of_range);
 }
