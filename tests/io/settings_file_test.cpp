@@ -22,12 +22,9 @@ protected:
 TEST_F(Settings, MissingFolderOrOversizedFileGivesTheDefaults)
 {
     const SettingsValues s = readSettings(folder.file("none.ini"));
-    EXPECT_EQ(s.scales, "50;100;200;400;800;1500;2000;3000;4000");
-    EXPECT_EQ(s.scaleMetric, 576.0f);
-    EXPECT_EQ(s.scaleEnglish, 1440.0f);
-    EXPECT_EQ(s.printOptions, (std::array<int16_t, 5>{1, 1, 1, 0, 0}));
-    EXPECT_EQ(scaleItems(s.scales), (std::vector<std::string>{" 50", " 100", " 200", " 400", " 800", " 1500", " 2000",
-                                                              " 3000", " 4000"}));
+    EXPECT_EQ(std::tuple(s.scales, s.scaleMetric, s.scaleEnglish, s.printOptions),
+              std::tuple(std::string("50;100;200;400;800;1500;2000;3000;4000"), 576.0f, 1440.0f,
+                         std::array<int16_t, 5>{1, 1, 1, 0, 0}));
     EXPECT_EQ(readSettings(folder.path().string()).scales, s.scales);
     const std::string big = "[Setting]\nScales=1\n" + std::string(kMaxSettingsFileBytes, ' ');
     EXPECT_EQ(readSettingsText(big).scales, "1");
@@ -45,7 +42,6 @@ TEST_F(Settings, KeysAnyCaseValuesWholeLeadingNumbers)
     EXPECT_EQ(s.scaleEnglish, 0.0f);
     // PropertyDescr missing: its default; BalanceGap 2.5 rounds half to even; the first of two keys counts.
     EXPECT_EQ(s.printOptions, (std::array<int16_t, 5>{1, 0, 1, 1, 2}));
-    EXPECT_EQ(read("[Setting]\nScales=250\n").scales, "250");
     EXPECT_TRUE(scaleItems(read("[Setting]\nScales=\n").scales).empty());
     EXPECT_EQ(scaleItems("-20;1E3;"), (std::vector<std::string>{"-20", " 1000"}));
 }
