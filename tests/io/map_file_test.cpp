@@ -85,9 +85,8 @@ TEST_F(MapFileTest, RoundTripThroughWindows1252)
     EXPECT_EQ(back.at(1, ColTag), Cell("\xC3\xA9t\xC3\xA9"));
     EXPECT_EQ(back.at(30, ColRadius), Cell("5\0" "00"s));
     const TailSplit split = splitTail(read.description);
-    EXPECT_EQ(split.unit, '1');
-    EXPECT_EQ(split.scale, "1200");
-    EXPECT_EQ(split.description, "Lot 7\r\nWest\r\n");
+    EXPECT_EQ(std::tuple(split.unit, split.scale, split.description),
+              std::tuple(std::optional<char>('1'), std::string("1200"), std::string("Lot 7\r\nWest\r\n")));
 }
 
 TEST_F(MapFileTest, EachSaveAndOpenAddsOneTrailingLineBreak)

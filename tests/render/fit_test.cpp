@@ -20,13 +20,9 @@ namespace {
 /// from east, clockwise on the map; @p distance ground units.
 Leg course(float direction, double distance, Tag tag = Tag::None)
 {
-    Leg leg;
-    leg.direction = direction;
-    leg.cosine = std::cos(double(direction) * kPi / 180.0);
-    leg.sine = std::sin(double(direction) * kPi / 180.0);
-    leg.distance = distance;
-    leg.tag = tag;
-    return leg;
+    const double radians = double(direction) * kPi / 180.0;
+    return {.direction = direction, .cosine = std::cos(radians), .sine = std::sin(radians), .distance = distance,
+            .tag = tag};
 }
 
 // The fit on a 7200 x 4800 canvas from a fresh state.

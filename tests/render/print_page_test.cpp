@@ -127,9 +127,8 @@ TEST(PrintPage, PaintsFigureAtTheMapAreaAndTheListInTwoColumns)
                          {FigText{{-180, 0}, 0, "1 "}, Palette::Blue, Target::Printer},
                          {FigText{{300, 0}, 0, "x"}, Palette::Red, Target::Screen}}};
 
-    RecordingSurface s;
+    RecordingSurface s, page;
     const MapPageLayout layout = planMapPage(s, kLetterPage, text);
-    RecordingSurface page;
     paintMapPage(page, kLetterPage, layout, text, figure, -1000.0f, -2000.0f);
     const std::vector<std::string> &calls = page.calls();
 
@@ -170,16 +169,14 @@ TEST(PrintPage, LongListGoesOverSecondAndThirdPagesUnderARule)
     MapPageText text{.referenceList = true, .highest = 200};
     for (int i = 1; i <= 150; ++i)
         text.listEntries.push_back(std::to_string(i) + "  N 10");
-    RecordingSurface s;
+    RecordingSurface s, page;
     const MapPageLayout layout = planMapPage(s, kLetterPage, text);
     ASSERT_TRUE(layout.listOnSecondPage);
-    RecordingSurface page;
     paintMapPage(page, kLetterPage, layout, text, Figure{}, 0, 0);
     // Each list page: the rule from the text origin, the page width less 2520 long,
     // half a line below the (absent) heading; then 69 lines of two columns.
     EXPECT_EQ(countOf(page, "newPage"), 2);
-    const std::vector<std::string> rules = callsStarting(page, "#000000 line 360 1175.0625 9360 1175.0625");
-    EXPECT_EQ(rules.size(), 2u);
+    EXPECT_EQ(countOf(page, "#000000 line 360 1175.0625 9360 1175.0625"), 2);
     const std::vector<std::string> &calls = page.calls();
     const auto second = std::find(std::find(calls.begin(), calls.end(), "newPage") + 1, calls.end(), "newPage");
     ASSERT_NE(second, calls.end());
