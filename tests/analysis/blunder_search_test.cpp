@@ -21,9 +21,7 @@ namespace {
 RowCells row(std::initializer_list<const char *> texts)
 {
     RowCells cells;
-    int c = 0;
-    for (const char *t : texts)
-        cells[c++] = Cell(std::string(t));
+    std::transform(texts.begin(), texts.end(), cells.begin(), [](const char *t) { return Cell(std::string(t)); });
     return cells;
 }
 
