@@ -1,11 +1,9 @@
 // Pictures of the window, its menus, dialogs, the zoom window, the help and
-// the printouts, for a person to look at. Runs only when QUILMAR_SCREENSHOTS
-// names a folder (best under xvfb-run, where real fonts and styles apply):
-//   QUILMAR_SCREENSHOTS=out QT_QPA_PLATFORM=xcb xvfb-run -a \
-//       build/tests/ui/quilmar_ui_tests --gtest_filter='Screenshots.*'
-// (without QT_QPA_PLATFORM the test main picks the offscreen platform).
+// the printouts (as PDF files), for a person to look at; not a test, since it
+// checks nothing. Best under xvfb-run, where real fonts and styles apply:
+//   xvfb-run -a build/tools/quilmar_screenshots out
 
-#include <cstdlib>
+#include <cstdio>
 #include <filesystem>
 
 #include <QAction>
@@ -17,7 +15,6 @@
 #include <QPrinter>
 #include <QTest>
 #include <QTextBrowser>
-#include <gtest/gtest.h>
 
 #include "plotter.h"
 #include "print_options_dialog.h"
@@ -53,19 +50,24 @@ void save(QWidget *w, const std::string &folder, const char *name)
 
 } // namespace
 
-TEST(Screenshots, WindowMenusDialogsZoomHelpAndPrintouts)
+int main(int argc, char **argv)
 {
-    const char *env = std::getenv("QUILMAR_SCREENSHOTS");
-    if (!env)
-        GTEST_SKIP() << "QUILMAR_SCREENSHOTS not set";
-    const std::string out = env;
+    if (argc != 2) {
+        std::fprintf(stderr, "usage: quilmar_screenshots FOLDER\n");
+        return 2;
+    }
+    QApplication app(argc, argv);
+    const std::string out = argv[1];
     std::filesystem::create_directories(out);
     PdfDialogs dialogs;
     dialogs.folder = out;
     Plotter w(dialogs, startupOptionsIn(out + "/", "quilmar", true));
     w.resize(1200, 760);
     w.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&w));
+    if (!QTest::qWaitForWindowExposed(&w)) {
+        std::fprintf(stderr, "quilmar_screenshots: the window was never shown\n");
+        return 1;
+    }
     w.findChild<QAction *>("demosample1")->trigger();
     save(&w, out, "window");
     // The toolbar's icons as a 200 % screen shows them.
@@ -108,4 +110,5 @@ TEST(Screenshots, WindowMenusDialogsZoomHelpAndPrintouts)
     w.FilePrint_Click();
     w.findChild<QAction *>("demosample4")->trigger();
     w.FilePrintmap_Click();
+    return 0;
 }
