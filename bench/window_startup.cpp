@@ -63,7 +63,6 @@ private:
     bool m_done = false;
 };
 
-
 } // namespace
 
 int main(int argc, char **argv)

@@ -123,14 +123,13 @@ private:
     {
         const int size = std::max(2, std::min(r.width(), r.height()) / 4);
         const QPoint c = r.center();
+        // Row i, counted from the point of the triangle, is 2i + 1 pixels long.
         for (int i = 0; i < size; ++i) {
-            // Row i, counted from the point of the triangle.
-            const int half = i;
             const int along = forward ? size / 2 - i : i - size / 2;
             if (horizontal)
-                painter->fillRect(c.x() + along, c.y() - half, 1, 2 * half + 1, colour);
+                painter->fillRect(c.x() + along, c.y() - i, 1, 2 * i + 1, colour);
             else
-                painter->fillRect(c.x() - half, c.y() + along, 2 * half + 1, 1, colour);
+                painter->fillRect(c.x() - i, c.y() + along, 2 * i + 1, 1, colour);
         }
     }
 
