@@ -14,11 +14,7 @@ using test::runCli;
 
 TEST(CliCalc, PlainAndJsonOutput)
 {
-    const struct {
-        Args args;
-        int status;
-        const char *out, *err;
-    } cases[] = {
+    const struct { Args args; int status; const char *out, *err; } cases[] = {
         {{"meters2feet", "-2"}, 0, "-2 Meters = -6.562 Feet\n", ""}, // a negative answer is no option
         {{"arc", "100 49"}, 2, "", "Chord cannot be longer than 2 x radius\n"},
         {{"rods", ""}, 0, "", ""}, {{"rods", "   "}, 0, "", ""}, {{"rods", "abc"}, 0, "", ""},

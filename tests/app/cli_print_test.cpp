@@ -9,10 +9,8 @@ using namespace quilmar;
 
 TEST(CliPrint, OptionListsTurnOnWhatTheyName)
 {
-    const struct {
-        const char *list;
-        std::vector<int> flags; ///< points, list, description, frame, balance gap; none: refused
-    } cases[] = {
+    // flags: points, list, description, frame, balance gap; none: refused
+    const struct { const char *list; std::vector<int> flags; } cases[] = {
         {"", {0, 0, 0, 0, 0}},
         {"reference-points,reference-list,description,frame,balance-gap", {1, 1, 1, 1, 1}},
         {"balance-gap", {0, 0, 0, 0, 1}},
@@ -22,20 +20,15 @@ TEST(CliPrint, OptionListsTurnOnWhatTheyName)
     for (const auto &c : cases) {
         PrintOptions o;
         EXPECT_EQ(parsePrintOptionList(c.list, o).empty(), !c.flags.empty()) << c.list;
-        if (!c.flags.empty()) {
+        if (!c.flags.empty())
             EXPECT_EQ((std::vector<int>{o.referencePoints, o.referenceList, o.propertyDescription, o.frames, o.balanceGap}),
                       c.flags) << c.list;
-        }
     }
 }
 
 TEST(CliPrint, FlagsThatDoNotGoTogetherAreRefused)
 {
-    const struct {
-        Args args;
-        const char *problem; ///< part of the message
-        int status;
-    } cases[] = {
+    const struct { Args args; const char *problem; int status; } cases[] = { // problem: part of the message
         {{"--page", "--data", "-o", "x.pdf", "/no/such.map"}, "give --page or --data, not both", 2},
         {{"--data", "--options", "frame", "-o", "x.pdf", "/no/such.map"}, "--options goes with --page", 2},
         {{"--options", "frame", "-o", "x.pdf", "/no/such.map"}, "--options goes with --page", 2},

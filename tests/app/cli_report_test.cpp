@@ -114,11 +114,7 @@ TEST(CliReport, BadInput)
 {
     const test::TempFolder folder;
     const std::string missing = folder.file("nowhere.map");
-    const struct {
-        Args args;
-        int status;
-        const char *errPart;
-    } cases[] = {
+    const struct { Args args; int status; const char *errPart; } cases[] = {
         {{missing}, 1, "not found."},
         {{}, 2, "no map file"},
         {{"--units", "yards", missing}, 2, "--units"},

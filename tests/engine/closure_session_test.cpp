@@ -28,11 +28,8 @@ TEST_F(Session, FindsEachLotsPlantedMistakeFirstAndLeavesTheWindowAlone)
     engine.setAcresbox("as the user left it");
     ClosureSession session(engine);
     ASSERT_EQ(session.report().lots.size(), 2u);
-    const struct {
-        int row, column;
-        BlunderKind kind;
-        const char *corrected;
-    } cases[] = {{3, ColNS, BlunderKind::NsFlip, "S"}, {9, ColEW, BlunderKind::EwFlip, "W"}};
+    const struct { int row, column; BlunderKind kind; const char *corrected; } cases[] = {
+        {3, ColNS, BlunderKind::NsFlip, "S"}, {9, ColEW, BlunderKind::EwFlip, "W"}};
     for (size_t i = 0; i < 2; ++i) {
         const auto &lot = session.report().lots[i];
         ASSERT_FALSE(lot.suggestions.empty());

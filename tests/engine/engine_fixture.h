@@ -23,9 +23,7 @@ struct DrawnEngine {
     ScriptedDialogs prompter;
     Engine engine{prompter};
     DrawnEngine(std::initializer_list<Row> rows, const char *scale = "Standard", const char *description = "")
-        : DrawnEngine(std::vector<Row>(rows), scale, description)
-    {
-    }
+        : DrawnEngine(std::vector<Row>(rows), scale, description) {}
     explicit DrawnEngine(const std::vector<Row> &rows, const char *scale = "Standard", const char *description = "")
     {
         engine.metrix_Click(Units::Feet);

@@ -31,11 +31,7 @@ const Row kBegin = test::tagRow("B"), kClose = test::tagRow("C");
 
 TEST(Engine, ResultTextsOfHandWorkedTraverses)
 {
-    struct Case {
-        const char *what;
-        std::vector<Row> rows;
-        const char *gap, *perimeter, *acres, *hectares;
-    };
+    struct Case { const char *what; std::vector<Row> rows; const char *gap, *perimeter, *acres, *hectares; };
     const Case cases[] = {
         // 100 x 100 square from a bare "B" row; the float walk misses by a hair.
         {"square", {kBegin, straight("N", "100"), straight("E", "100"), straight("S", "100"), straight("W", "100")},
@@ -81,9 +77,8 @@ TEST(Engine, ResultTextsOfHandWorkedTraverses)
         Fixture f{c.rows};
         EXPECT_EQ(f.engine.acresbox(), "") << c.what;
         f.engine.mnuGap_Click();
-        if (c.gap) {
+        if (c.gap)
             EXPECT_EQ(f.engine.acresbox(), c.gap) << c.what;
-        }
         f.engine.mnuPeri_Click();
         EXPECT_EQ(f.engine.acresbox(), c.perimeter) << c.what;
         if (c.acres) {

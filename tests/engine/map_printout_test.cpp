@@ -26,9 +26,7 @@ struct Printed : test::DrawnEngine {
 const std::initializer_list<Row> kOpenSquare{straight("N", "100"), straight("E", "100"), straight("S", "100"),
                                               straight("W", "90")};
 
-struct Line {
-    double x1, y1, x2, y2;
-};
+struct Line { double x1, y1, x2, y2; };
 
 // The map's lines in page twips (the recorder keeps drawing coordinates and the
 // origin moves; this puts them back on the page).
@@ -61,13 +59,9 @@ std::vector<Line> mapLines(const RecordingSurface &s)
 // Each option alone, from the defaults (reference points on, balance gap off).
 TEST(MapPrintout, ReferenceLabelsAndBalancedGapFollowTheirOptions)
 {
-    const struct {
-        int16_t PrintOptions::*option;
-        int16_t value;
-        std::size_t labels;
-        bool closed;
-    } cases[] = {{&PrintOptions::balanceGap, 0, 4, false}, {&PrintOptions::balanceGap, 1, 4, true},
-                 {&PrintOptions::referencePoints, 0, 0, false}};
+    const struct { int16_t PrintOptions::*option; int16_t value; std::size_t labels; bool closed; } cases[] = {
+        {&PrintOptions::balanceGap, 0, 4, false}, {&PrintOptions::balanceGap, 1, 4, true},
+        {&PrintOptions::referencePoints, 0, 0, false}};
     for (const auto &c : cases) {
         Printed p(kOpenSquare);
         PrintOptions options = p.engine.printOptions();
@@ -88,10 +82,8 @@ TEST(MapPrintout, ReferenceLabelsAndBalancedGapFollowTheirOptions)
 TEST(MapPrintout, CaptionTellsThePrintedScale)
 {
     // factor 0: fitted to the page; a numeric scale draws at its own factor.
-    const struct {
-        const char *scale, *caption;
-        float factor;
-    } cases[] = {{"Standard", "Scale = 1: ", 0.0f}, {"1000:1", "Scale = 1:1000 (Feet)", 1.44f}};
+    const struct { const char *scale, *caption; float factor; } cases[] = {
+        {"Standard", "Scale = 1: ", 0.0f}, {"1000:1", "Scale = 1:1000 (Feet)", 1.44f}};
     for (const auto &c : cases) {
         Printed p(kOpenSquare, c.scale);
         RecordingSurface page;
@@ -103,9 +95,8 @@ TEST(MapPrintout, CaptionTellsThePrintedScale)
         // 1 inch = n feet: a 100-foot side is 144000 / n twips long on paper.
         const std::vector<Line> lines = mapLines(page);
         EXPECT_NEAR(n, 144000.0 / std::fabs(lines[0].y2 - lines[0].y1), c.factor ? n * 1e-4 : 0.5 + n * 0.002) << c.scale;
-        if (c.factor) {
+        if (c.factor)
             EXPECT_FLOAT_EQ(p.engine.scaleFactor(), c.factor);
-        }
     }
 }
 

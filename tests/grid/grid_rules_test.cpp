@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "scripted_dialogs.h"
+#include "table_builder.h"
 
 using namespace quilmar;
 
@@ -21,7 +22,7 @@ struct Grid : ::testing::Test {
         rules.setText(f, text);
         return rules.lostFocus(f);
     }
-    void fillRow(int row, std::array<const char *, 10> cells)
+    void fillRow(int row, test::Row cells)
     {
         for (int c = ColNS; c <= ColTag; ++c)
             rules.setText({row, c}, cells[c - 1]);
@@ -32,13 +33,9 @@ struct Grid : ::testing::Test {
 
 TEST_F(Grid, KeystrokeFiltersAndToggles)
 {
-    const struct {
-        int column;
-        const char *current;
-        char32_t key;
-        std::optional<std::string> text; // expected new text
-        bool swallow, beep;
-    } cases[] = {
+    // text: the expected new text
+    struct Key { int column; const char *current; char32_t key; std::optional<std::string> text; bool swallow, beep; };
+    const Key cases[] = {
         {ColNS, "", 'x', "N", true, false},   {ColNS, "N", 'x', "S", true, false},
         {ColNS, "S", 'x', "N", true, false},  {ColNS, "S", 'w', "W", true, false},
         {ColNS, "", '+', "+", true, false},   {ColNS, "N", 8, "S", true, false},
@@ -64,20 +61,11 @@ TEST_F(Grid, KeystrokeFiltersAndToggles)
 
 TEST_F(Grid, TabAndEnterMoveTheFocus)
 {
-    struct {
-        FieldRef from;
-        const char *radius;
-        std::optional<FieldRef> to;
-        bool scrollMessage;
-    } cases[] = {
-        {{0, ColNS}, "", FieldRef{0, ColDeg}, false},
-        {{0, ColDistance}, "", FieldRef{1, ColNS}, false},
-        {{0, ColDistance}, "50", FieldRef{0, ColChord}, false},
-        {{0, ColLR}, "50", FieldRef{1, ColNS}, false},
-        {{3, ColTag}, "", FieldRef{4, ColNS}, false},
-        {{9, ColDistance}, "", std::nullopt, true},
-        {{9, ColLR}, "", std::nullopt, true},
-        {{9, ColTag}, "", std::nullopt, false},
+    const struct { FieldRef from; const char *radius; std::optional<FieldRef> to; bool scrollMessage; } cases[] = {
+        {{0, ColNS}, "", FieldRef{0, ColDeg}, false}, {{0, ColDistance}, "", FieldRef{1, ColNS}, false},
+        {{0, ColDistance}, "50", FieldRef{0, ColChord}, false}, {{0, ColLR}, "50", FieldRef{1, ColNS}, false},
+        {{3, ColTag}, "", FieldRef{4, ColNS}, false}, {{9, ColDistance}, "", std::nullopt, true},
+        {{9, ColLR}, "", std::nullopt, true}, {{9, ColTag}, "", std::nullopt, false},
         {{9, ColDistance}, "50", FieldRef{9, ColChord}, false},
     };
     for (const auto &c : cases) {
@@ -94,11 +82,8 @@ TEST_F(Grid, TabAndEnterMoveTheFocus)
 
 TEST_F(Grid, LeavingAFieldChecksAndStores)
 {
-    struct {
-        int column;
-        const char *ns, *tag, *text, *message; // message "" for none
-        bool stored;
-    } cases[] = {
+    // message "" for none
+    const struct { int column; const char *ns, *tag, *text, *message; bool stored; } cases[] = {
         {ColNS, "", "C", "N", "Entries cannot be made on a line with a 'C' or 'N' tag.", false},
         {ColDistance, "", "N", "12", "Entries cannot be made on a line with a 'C' or 'N' tag.", false},
         {ColDistance, "", "N", "abc", "", true},
@@ -125,13 +110,8 @@ TEST_F(Grid, LeavingAFieldChecksAndStores)
 
 TEST_F(Grid, RowCheckMessagesIconsAndFocus)
 {
-    struct {
-        std::array<const char *, 10> row;
-        bool valid;
-        const char *message;
-        Icon icon;
-        std::optional<FieldRef> focus;
-    } cases[] = {
+    struct Check { test::Row row; bool valid; const char *message; Icon icon; std::optional<FieldRef> focus; };
+    const Check cases[] = {
         {{"N", "95", "", "", "E", "10", "", "", "", ""}, false, "Invalid value in angle fields.", Icon::Exclamation, FieldRef{4, ColDeg}},
         {{"+", "95", "", "", "", "10", "", "", "", ""}, true, "", Icon::None, std::nullopt},
         {{"", "45", "", "", "E", "10", "", "", "", ""}, false, "Please specify the North-South direction.", Icon::Exclamation, FieldRef{4, ColNS}},
@@ -310,13 +290,9 @@ TEST_F(Grid, ClearRowAndClearAll)
 // row the field now shows, not to the row it showed when it got the focus.
 TEST_F(Grid, FieldStillFocusedAfterTheWindowScrollsStoresIntoTheRowItShows)
 {
-    const struct {
-        const char *how;
-        int scrollBefore;
-        FieldRef focused;
-        std::function<void(GridRules &)> scroll;
-        int expectedRow; // table row the typed text must reach
-    } cases[] = {
+    // row: the table row the typed text must reach
+    struct Scroll { const char *how; int before; FieldRef focused; std::function<void(GridRules &)> scroll; int row; };
+    const Scroll cases[] = {
         {"clear all", 136, {1, ColMin}, [](GridRules &g) { GridOutcome o; g.clearAll(o); }, 1},
         {"clear all at the top", 0, {4, ColNS}, [](GridRules &g) { GridOutcome o; g.clearAll(o); }, 4},
         {"scroll to the top", 40, {0, ColNS}, [](GridRules &g) { g.scrollTo(0); }, 0},
@@ -326,14 +302,14 @@ TEST_F(Grid, FieldStillFocusedAfterTheWindowScrollsStoresIntoTheRowItShows)
         CourseTable t;
         ScriptedDialogs d;
         GridRules g(t, d, [] {});
-        g.scrollTo(c.scrollBefore);
+        g.scrollTo(c.before);
         g.gotFocus(c.focused);
         c.scroll(g);
         g.setText(c.focused, "7");
         g.lostFocus(c.focused);
-        EXPECT_EQ(t.at(c.expectedRow, c.focused.column).text(), "7") << c.how;
-        if (c.expectedRow != c.scrollBefore + c.focused.row)
-            EXPECT_EQ(t.at(c.scrollBefore + c.focused.row, c.focused.column).text(), "") << c.how;
+        EXPECT_EQ(t.at(c.row, c.focused.column).text(), "7") << c.how;
+        if (c.row != c.before + c.focused.row)
+            EXPECT_EQ(t.at(c.before + c.focused.row, c.focused.column).text(), "") << c.how;
         EXPECT_EQ(g.valueOnEntry(), "") << c.how; // the refilled text, so an unchanged field does not redraw
     }
 }

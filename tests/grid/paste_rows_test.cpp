@@ -25,15 +25,10 @@ std::vector<PastedRow> pasted(int n)
 const std::string kChoice = " Yes replaces them; No inserts the pasted rows before them; Cancel pastes nothing.";
 const std::string kAsk24 = "Rows 3 to 4 already hold entries." + kChoice;
 
+// answer: when a question is expected; box: the last box shown, "" for none; after: distance cells afterwards.
 struct Case {
-    const char *name;
-    std::vector<int> existing;
-    int at, count;
-    std::optional<Answer> answer; ///< when a question is expected
-    std::string box;              ///< the last box shown, "" for none
-    bool pasted;
-    std::vector<std::pair<int, const char *>> after; ///< distance cells afterwards
-    int highest = 10;
+    const char *name; std::vector<int> existing; int at, count; std::optional<Answer> answer; std::string box;
+    bool pasted; std::vector<std::pair<int, const char *>> after; int highest = 10;
 };
 
 TEST(PasteRows, IntoTheTable)

@@ -55,11 +55,7 @@ TEST_F(ClosureWindow, ReportShowsTheRowsAndItsButtonsWorkTheSession)
     ClosureSession session(w->engine());
     ClosureReportWindow report(session);
     ASSERT_EQ(report.lotTabs()->count(), 2);
-    const struct {
-        const char *table;
-        int row, column;
-        const char *text;
-    } cells[] = {
+    const struct { const char *table; int row, column; const char *text; } cells[] = {
         {"compass_0Table", 3, 0, "5"},           {"transit_1Table", 3, 0, "11"},
         {"suggestions_0", 0, 0, "4"},            {"suggestions_0", 0, 1, "N and S exchanged"},
         {"suggestions_0", 0, 2, "S 7 35 40 W 605.31"}, {"suggestions_1", 0, 2, "S 7 35 40 W 605.31"},

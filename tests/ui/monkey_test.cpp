@@ -135,12 +135,6 @@ TEST_F(Monkey, RandomSessionKeepsTheGridAndTheTableTogether)
             log.back() += " [" + box + "]";
             chordCorrected = chordCorrected || box.rfind("Chord is incorrect", 0) == 0;
         }
-        if (std::getenv("QUILMAR_MONKEY_TRACE")) {
-            const auto rf = grid.rules().focused();
-            QWidget *qf = QApplication::focusWidget();
-            fprintf(stderr, "%s: qt %s rules %s\n", log.back().c_str(), qf ? qf->objectName().toUtf8().constData() : "-",
-                    rf ? (std::to_string(rf->row) + "," + std::to_string(rf->column)).c_str() : "-");
-        }
         const int scroll = grid.scrollBar()->value();
         // The field the rules count as focused: its text reaches the table when
         // it is left. Qt's focus must be on that very field unless a menu holds it.
@@ -181,10 +175,9 @@ TEST_F(Monkey, RandomSessionKeepsTheGridAndTheTableTogether)
 // settles, on a field the rules count as focused.
 TEST_F(Monkey, TwoFailingChecksDoNotSendTheFocusToAndFro)
 {
-    const struct {
-        const char *invalid; // text of the clicked field, which fails when left
-        int column;          // its column, in row 3
-    } cases[] = {{"3+927", ColMin}, {"5x", ColDistance}, {"95", ColDeg}};
+    // invalid: the text of the clicked field in row 3, which fails when left
+    const struct { const char *invalid; int column; } cases[] = {
+        {"3+927", ColMin}, {"5x", ColDistance}, {"95", ColDeg}};
     for (const auto &c : cases) {
         start(true);
         EntryGrid &grid = w->grid();

@@ -25,14 +25,10 @@ const QString kDeed = QString::fromUtf8("Beginning at a “stone” 3′ high; t
 
 TEST(Utf16Offset, CountsUnitsNotBytes)
 {
-    const struct {
-        const char *text;
-        std::size_t byte, units;
-    } cases[] = {
+    const struct { const char *text; std::size_t byte, units; } cases[] = {
         {"N 30 W", 4, 4},
         {"30½° W", 6, 4},          // ½ and ° are two bytes each
         {"“a” b", 8, 4},           // curly quotes are three bytes
-        {"3′ 4″ x", 9, 5},         // primes are three bytes
         {"\xF0\x9D\x84\x9E x", 5, 3}, // beyond the BMP: four bytes, two units
         {"ab", 99, 2},             // past the end: the whole text
         {"°x", 1, 1},              // inside a character: that character counts
@@ -67,11 +63,7 @@ TEST(PasteDeedDialog, RowsFlagsAndSelection)
               "3 course rows read; 1 call in red could not be read: enter it by hand after inserting.");
 
     // The flagged call starts after 58 characters (66 bytes), ends 30 later.
-    const struct {
-        int line;
-        const char *selected;
-        int start;
-    } picks[] = {{0, "thence N 30½° W 100 feet;", 32},
+    const struct { int line; const char *selected; int start; } picks[] = {{0, "thence N 30½° W 100 feet;", 32},
                  {1, "thence S 48°72′ E 150.00 feet;", 58},
                  {2, "thence S 60° E 50 feet to the beginning.", 89}};
     for (const auto &p : picks) {
@@ -135,18 +127,11 @@ class PasteCommand : public test::WindowTest {};
 // The command opens the dialog on the clipboard's text and pastes what it returns.
 TEST_F(PasteCommand, IntoTheGridAtTheFocusedRowWithEachAnswer)
 {
-    struct {
-        bool dialogCancels;
-        std::optional<Answer> answer; // none: row 2 is empty, nothing asked
-        const char *row2NS;           // table row 2 afterwards
-        const char *row7NS;           // where the old row 2 went on No
-        bool drawn;
-    } cases[] = {
-        {true, {}, "", "", false},
-        {false, {}, "N", "", true},
-        {false, Answer::Yes, "N", "", true},
-        {false, Answer::No, "N", "S", true},
-        {false, Answer::Cancel, "S", "", false},
+    // answer none: row 2 is empty, nothing asked; row7NS: where the old row 2 went on No.
+    struct Case { bool dialogCancels; std::optional<Answer> answer; const char *row2NS, *row7NS; bool drawn; };
+    const Case cases[] = {
+        {true, {}, "", "", false},           {false, {}, "N", "", true},         {false, Answer::Yes, "N", "", true},
+        {false, Answer::No, "N", "S", true}, {false, Answer::Cancel, "S", "", false},
     };
     for (const auto &c : cases) {
         start(true);
@@ -174,9 +159,8 @@ TEST_F(PasteCommand, IntoTheGridAtTheFocusedRowWithEachAnswer)
         EXPECT_EQ(w->engine().mapComputed(), c.drawn);
         EXPECT_EQ(!w->findChild<MapCanvas *>()->isBlank(), c.drawn);
         expectGridShowsTable();
-        if (c.drawn) {
+        if (c.drawn)
             EXPECT_EQ(cell(6, ColTag), "C");
-        }
     }
 }
 

@@ -32,18 +32,14 @@ TEST(SessionBus, OnlyADoomedAutolaunchIsSpared)
     std::ofstream(fileDir / "bus") << "not a socket";
     const char *noLauncher = "/no/such/dbus-launch";
 
-    struct Case {
-        const char *address, *runtimeDir, *launcher;
-        bool spared;
-    };
-    const Case cases[] = {
+    const struct { const char *address, *runtimeDir, *launcher; bool spared; } cases[] = {
         {"unix:path=/run/user/1000/bus", nullptr, noLauncher, false}, // the session's own address
         {nullptr, socketDir.c_str(), noLauncher, false},              // the user bus libdbus finds itself
         {nullptr, nullptr, "/bin/sh", false},                         // a launcher that can start a bus
         {nullptr, fileDir.c_str(), noLauncher, true},                 // "bus" that is no socket
         {"", nullptr, noLauncher, true},                              // set but empty is unset
     };
-    for (const Case &c : cases) {
+    for (const auto &c : cases) {
         const auto address = addressWithoutAutolaunch(c.address, c.runtimeDir, c.launcher);
         EXPECT_EQ(address.value_or("-"), c.spared ? "disabled:" : "-")
             << (c.address ? c.address : "-") << " " << (c.runtimeDir ? c.runtimeDir : "-");
