@@ -8,11 +8,7 @@
 
 namespace quilmar::test {
 
-struct CommandRun {
-    int status;
-    std::string out;
-    std::string err;
-};
+struct CommandRun { int status; std::string out, err; };
 
 inline CommandRun runCli(const char *name, Args args)
 {

@@ -16,16 +16,9 @@ namespace quilmar {
 
 /// One step the scripted closure report takes: apply suggestion `suggestion`
 /// of lot `lot`, or undo.
-struct ClosureStep {
-    enum Kind { Apply, Undo } kind = Apply;
-    std::size_t lot = 0, suggestion = 0;
-};
+struct ClosureStep { enum Kind { Apply, Undo } kind = Apply; std::size_t lot = 0, suggestion = 0; };
 
-struct AskedBox {
-    std::string text;
-    Buttons buttons;
-    Icon icon;
-};
+struct AskedBox { std::string text; Buttons buttons; Icon icon; };
 
 class ScriptedDialogs : public Dialogs {
 public:

@@ -14,17 +14,11 @@ using namespace quilmar;
 
 namespace {
 
-class ClosureWindow : public test::WindowTest {
-protected:
-    void SetUp() override
-    {
-        WindowTest::SetUp();
-        load(test::twoBlunders());
-    }
-};
+using ClosureWindow = test::WindowTest;
 
 TEST_F(ClosureWindow, AppliesReachGridAndMapAndUndoPutsBothBack)
 {
+    load(test::twoBlunders());
     dialogs.closureSteps = {{ClosureStep::Apply, 0, 0}, {ClosureStep::Apply, 1, 0}};
     trigger("mnuClosureReport");
     ASSERT_EQ(dialogs.closureResults, (std::vector<bool>{true, true}));
@@ -52,6 +46,7 @@ TEST_F(ClosureWindow, NothingToAnalyseGetsAMessageInstead)
 
 TEST_F(ClosureWindow, ReportShowsTheRowsAndItsButtonsWorkTheSession)
 {
+    load(test::twoBlunders());
     ClosureSession session(w->engine());
     ClosureReportWindow report(session);
     ASSERT_EQ(report.lotTabs()->count(), 2);

@@ -61,10 +61,8 @@ protected:
     {
         for (char c : keys) {
             QWidget *target = QApplication::focusWidget();
-            if (c == '\t')
-                QTest::keyClick(target, Qt::Key_Tab);
-            else if (c == '\r')
-                QTest::keyClick(target, Qt::Key_Return);
+            if (c == '\t' || c == '\r')
+                QTest::keyClick(target, c == '\t' ? Qt::Key_Tab : Qt::Key_Return);
             else
                 QTest::keyClick(target, c);
         }
