@@ -11,11 +11,8 @@ TEST(CliPrint, OptionListsTurnOnWhatTheyName)
 {
     // flags: points, list, description, frame, balance gap; none: refused
     const struct { const char *list; std::vector<int> flags; } cases[] = {
-        {"", {0, 0, 0, 0, 0}},
-        {"reference-points,reference-list,description,frame,balance-gap", {1, 1, 1, 1, 1}},
-        {"balance-gap", {0, 0, 0, 0, 1}},
-        {"description,,frame", {0, 0, 1, 1, 0}},
-        {"reference-points,colour", {}},
+        {"", {0, 0, 0, 0, 0}}, {"reference-points,reference-list,description,frame,balance-gap", {1, 1, 1, 1, 1}},
+        {"balance-gap", {0, 0, 0, 0, 1}}, {"description,,frame", {0, 0, 1, 1, 0}}, {"reference-points,colour", {}},
     };
     for (const auto &c : cases) {
         PrintOptions o;

@@ -115,13 +115,9 @@ TEST(CliReport, BadInput)
     const test::TempFolder folder;
     const std::string missing = folder.file("nowhere.map");
     const struct { Args args; int status; const char *errPart; } cases[] = {
-        {{missing}, 1, "not found."},
-        {{}, 2, "no map file"},
-        {{"--units", "yards", missing}, 2, "--units"},
-        {{"--canvas", "12by5", missing}, 2, "--canvas"},
-        {{"--bogus", missing}, 2, "unknown option"},
-        {{"--scale", "abc", missing}, 2, "--scale must be"},
-        {{folder.path().string()}, 1, "Cannot read"},
+        {{missing}, 1, "not found."}, {{}, 2, "no map file"}, {{"--units", "yards", missing}, 2, "--units"},
+        {{"--canvas", "12by5", missing}, 2, "--canvas"}, {{"--bogus", missing}, 2, "unknown option"},
+        {{"--scale", "abc", missing}, 2, "--scale must be"}, {{folder.path().string()}, 1, "Cannot read"},
     };
     for (const auto &c : cases) {
         CommandRun r = report(c.args);

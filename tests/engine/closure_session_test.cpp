@@ -87,8 +87,7 @@ TEST_F(Session, WithoutAWindowTheEngineRedrawsItself)
 TEST_F(Session, NothingToAnalyse)
 {
     const CourseTable tables[] = {
-        CourseTable(),
-        test::makeTable({{"", "", "", "", "", "", "", "", "", "B"}}),
+        CourseTable(), test::makeTable({{"", "", "", "", "", "", "", "", "", "B"}}),
         test::makeTable({{"N", "12", "", "", "E", "100", "", "", "", ""}}),
         test::makeTable({{"N", "12", "", "", "E", "100", "", "", "", "N"}, {"S", "1", "", "", "W", "50", "", "", "", ""}}),
     };
@@ -119,14 +118,11 @@ TEST_F(Session, WrittenOutlineEndsAtTheGapAndTheAdjustedOneOnThePointOfBeginning
 TEST(ClosureTexts, Numbers)
 {
     const std::pair<std::string, std::string> cases[] = {
-        {precisionText(12345.9), "1:12,345"},
-        {precisionText(std::nullopt), "exact"},
-        {groupedNumber(-1234567.8916, 3), "-1,234,567.892"},
-        {groupedNumber(-0.0001, 3), "0.000"},
+        {precisionText(12345.9), "1:12,345"}, {precisionText(std::nullopt), "exact"},
+        {groupedNumber(-1234567.8916, 3), "-1,234,567.892"}, {groupedNumber(-0.0001, 3), "0.000"},
         {areaText(43560.0, Units::Feet), "43,560.00 sq ft (1.0000 acres)"},
         {areaText(25000.0, Units::Meters), "25,000.00 sq m (2.5000 ha)"},
-        {areaText(12.5, Units::Other), "12.50 square units"},
-        {kindWords(BlunderKind::EwFlip), "E and W exchanged"},
+        {areaText(12.5, Units::Other), "12.50 square units"}, {kindWords(BlunderKind::EwFlip), "E and W exchanged"},
     };
     for (const auto &[got, want] : cases)
         EXPECT_EQ(got, want);

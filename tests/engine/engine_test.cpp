@@ -14,15 +14,10 @@ using test::straight;
 using Fixture = test::DrawnEngine;
 
 // The square feet of an acres text: "0.40 acres [17,353.98 sq ft]" -> 17353.98.
-double squareFeet(const std::string &text)
+double squareFeet(std::string text)
 {
-    std::string digits;
-    for (char ch : text.substr(text.find('[') + 1))
-        if ((ch >= '0' && ch <= '9') || ch == '.')
-            digits += ch;
-        else if (ch == ' ')
-            break;
-    return std::stod(digits);
+    std::erase(text, ',');
+    return std::stod(text.substr(text.find('[') + 1));
 }
 
 const Row kBegin = test::tagRow("B"), kClose = test::tagRow("C");

@@ -36,12 +36,10 @@ TEST_F(Grid, KeystrokeFiltersAndToggles)
     // text: the expected new text
     struct Key { int column; const char *current; char32_t key; std::optional<std::string> text; bool swallow, beep; };
     const Key cases[] = {
-        {ColNS, "", 'x', "N", true, false},   {ColNS, "N", 'x', "S", true, false},
-        {ColNS, "S", 'x', "N", true, false},  {ColNS, "S", 'w', "W", true, false},
-        {ColNS, "", '+', "+", true, false},   {ColNS, "N", 8, "S", true, false},
-        {ColEW, "", 'q', "E", true, false},   {ColEW, "E", 'q', "W", true, false},
-        {ColEW, "", 'w', "W", true, false},   {ColLR, "", 'q', "R", true, false},
-        {ColLR, "R", 'q', "L", true, false},  {ColLR, "R", 'l', "L", true, false},
+        {ColNS, "", 'x', "N", true, false},   {ColNS, "N", 'x', "S", true, false},  {ColNS, "S", 'x', "N", true, false},
+        {ColNS, "S", 'w', "W", true, false},  {ColNS, "", '+', "+", true, false},   {ColNS, "N", 8, "S", true, false},
+        {ColEW, "", 'q', "E", true, false},   {ColEW, "E", 'q', "W", true, false},  {ColEW, "", 'w', "W", true, false},
+        {ColLR, "", 'q', "R", true, false},   {ColLR, "R", 'q', "L", true, false},  {ColLR, "R", 'l', "L", true, false},
         {ColTag, "B", 'c', "C", true, false}, {ColTag, "B", 'x', "", true, false},
         {ColDeg, "", '5', std::nullopt, false, false}, {ColDistance, "", '.', std::nullopt, false, false},
         {ColChord, "", ',', std::nullopt, false, false}, {ColRadius, "1", 8, std::nullopt, false, false},
@@ -86,14 +84,11 @@ TEST_F(Grid, LeavingAFieldChecksAndStores)
     const struct { int column; const char *ns, *tag, *text, *message; bool stored; } cases[] = {
         {ColNS, "", "C", "N", "Entries cannot be made on a line with a 'C' or 'N' tag.", false},
         {ColDistance, "", "N", "12", "Entries cannot be made on a line with a 'C' or 'N' tag.", false},
-        {ColDistance, "", "N", "abc", "", true},
-        {ColDeg, "N", "", "95", "Invalid entry.", true}, // angle fields store what they refuse
-        {ColDeg, "+", "", "95", "", true},
-        {ColDeg, "N", "", "4x", "Invalid entry.", true},
-        {ColMin, "N", "", "60", "Invalid entry.", true},
-        {ColSec, "N", "", "59.999", "", true},
-        {ColChord, "N", "", "abc", "", true}, // reads as 0: no message
-        {ColChord, "N", "", "5a", "Invalid entry.", false},
+        // Angle fields store what they refuse; a chord of "abc" reads as 0: no message.
+        {ColDistance, "", "N", "abc", "", true},      {ColDeg, "N", "", "95", "Invalid entry.", true},
+        {ColDeg, "+", "", "95", "", true},            {ColDeg, "N", "", "4x", "Invalid entry.", true},
+        {ColMin, "N", "", "60", "Invalid entry.", true}, {ColSec, "N", "", "59.999", "", true},
+        {ColChord, "N", "", "abc", "", true},         {ColChord, "N", "", "5a", "Invalid entry.", false},
         {ColRadius, "N", "", " 40 ", "", true},
     };
     for (const auto &c : cases) {

@@ -31,13 +31,8 @@ std::vector<std::string> entries(QMenu *menu)
 {
     std::vector<std::string> out;
     for (QAction *a : menu->actions()) {
-        std::string line = a->isSeparator()
-                               ? std::string("-")
-                               : a->objectName().toStdString() + "|" + a->text().toStdString() + "|" +
-                                     a->shortcut().toString().toStdString();
-        if (!a->isVisible())
-            line += " (hidden)";
-        out.push_back(line);
+        QString line = a->isSeparator() ? "-" : a->objectName() + "|" + a->text() + "|" + a->shortcut().toString();
+        out.push_back((line + (a->isVisible() ? "" : " (hidden)")).toStdString());
     }
     return out;
 }
@@ -227,8 +222,7 @@ TEST_F(Commands, PrintOptionsDialogReloadsAndOnlyOkKeepsTheChoice)
     QStringList captions;
     for (int i = 0; i < 5; ++i)
         captions << d->check(i)->text() + "=" + QString::number(d->check(i)->isChecked());
-    EXPECT_EQ(captions.join(","),
-              "Reference Points=1,Reference List=1,Property Description=1,Frame=0,Balance Gap=0");
+    EXPECT_EQ(captions.join(","), "Reference Points=1,Reference List=1,Property Description=1,Frame=0,Balance Gap=0");
 
     d->check(4)->setChecked(true);
     QTest::mouseClick(d->findChild<QPushButton *>("OKButton_1"), Qt::LeftButton);
@@ -377,8 +371,7 @@ TEST_F(Commands, TheMapPrintoutAsAPdfReadBack)
     const QPageLayout letter(QPageSize(QPageSize::Letter), QPageLayout::Portrait, QMarginsF(0.25, 0.25, 0.25, 0.25),
                              QPageLayout::Inch);
     ASSERT_TRUE(writePrintoutPdf(QString::fromStdString(pdf.string()), letter,
-                                 [this](PrintSheet &sheet) { printMapSheets(w->engine(), sheet); }, 1, error))
-        << error;
+                                 [this](PrintSheet &sheet) { printMapSheets(w->engine(), sheet); }, 1, error)) << error;
     const std::string command = "pdftotext " + pdf.string() + " " + (dir / "map.txt").string();
     ASSERT_EQ(std::system(command.c_str()), 0);
     const std::string text = test::fileBytes(dir / "map.txt");

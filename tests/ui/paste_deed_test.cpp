@@ -26,15 +26,12 @@ const QString kDeed = QString::fromUtf8("Beginning at a “stone” 3′ high; t
 TEST(Utf16Offset, CountsUnitsNotBytes)
 {
     const struct { const char *text; std::size_t byte, units; } cases[] = {
-        {"N 30 W", 4, 4},
-        {"30½° W", 6, 4},          // ½ and ° are two bytes each
-        {"“a” b", 8, 4},           // curly quotes are three bytes
-        {"\xF0\x9D\x84\x9E x", 5, 3}, // beyond the BMP: four bytes, two units
-        {"ab", 99, 2},             // past the end: the whole text
-        {"°x", 1, 1},              // inside a character: that character counts
-        {"\x80\xFFx", 3, 3},       // stray bytes: one unit each
-        {"\xE2\x82", 2, 2},        // a cut sequence
-        {"", 0, 0},
+        // ½ and ° are two bytes each, curly quotes three; beyond the BMP four bytes make two units
+        {"N 30 W", 4, 4}, {"30½° W", 6, 4}, {"“a” b", 8, 4}, {"\xF0\x9D\x84\x9E x", 5, 3},
+        // past the end: the whole text; inside a character: that character counts
+        {"ab", 99, 2}, {"°x", 1, 1},
+        // stray bytes: one unit each; a cut sequence
+        {"\x80\xFFx", 3, 3}, {"\xE2\x82", 2, 2}, {"", 0, 0},
     };
     for (const auto &c : cases)
         EXPECT_EQ(utf16Offset(c.text, c.byte), c.units) << c.text;
@@ -129,6 +126,9 @@ TEST_F(PasteCommand, IntoTheGridAtTheFocusedRowWithEachAnswer)
 {
     // answer none: row 2 is empty, nothing asked; row7NS: where the old row 2 went on No.
     struct Case { bool dialogCancels; std::optional<Answer> answer; const char *row2NS, *row7NS; bool drawn; };
+    const std::vector<PastedRow> square{{"N", "0", "0", "0", "E", "100"}, {"E", "", "", "", "", "100"},
+                                        {"S", "0", "0", "0", "E", "100"}, {"W", "", "", "", "", "100"},
+                                        {"", "", "", "", "", "", "", "", "", "C"}};
     const Case cases[] = {
         {true, {}, "", "", false},           {false, {}, "N", "", true},         {false, Answer::Yes, "N", "", true},
         {false, Answer::No, "N", "S", true}, {false, Answer::Cancel, "S", "", false},
@@ -144,12 +144,8 @@ TEST_F(PasteCommand, IntoTheGridAtTheFocusedRowWithEachAnswer)
         load(table);
         field(2, ColDeg)->setFocus();
         QApplication::processEvents();
-        if (!c.dialogCancels) {
-            dialogs.pastes.push_back(std::vector<PastedRow>{
-                {"N", "0", "0", "0", "E", "100", "", "", "", ""}, {"E", "", "", "", "", "100", "", "", "", ""},
-                {"S", "0", "0", "0", "E", "100", "", "", "", ""}, {"W", "", "", "", "", "100", "", "", "", ""},
-                {"", "", "", "", "", "", "", "", "", "C"}});
-        }
+        if (!c.dialogCancels)
+            dialogs.pastes.push_back(square);
         QApplication::clipboard()->setText(kDeed);
         trigger("mnuPasteDeed");
         EXPECT_EQ(dialogs.pasteTexts.back(), kDeed.toStdString());
