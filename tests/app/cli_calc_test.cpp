@@ -42,10 +42,7 @@ TEST(CliCalc, UsageErrors)
     }
 }
 
-class CliConvert : public ::testing::Test {
-protected:
-    test::TempFolder folder;
-};
+struct CliConvert : ::testing::Test { test::TempFolder folder; };
 
 TEST_F(CliConvert, MetersToFeetSelectsFeet)
 {

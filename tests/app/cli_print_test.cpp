@@ -17,9 +17,10 @@ TEST(CliPrint, OptionListsTurnOnWhatTheyName)
     for (const auto &c : cases) {
         PrintOptions o;
         EXPECT_EQ(parsePrintOptionList(c.list, o).empty(), !c.flags.empty()) << c.list;
-        if (!c.flags.empty())
+        if (!c.flags.empty()) {
             EXPECT_EQ((std::vector<int>{o.referencePoints, o.referenceList, o.propertyDescription, o.frames, o.balanceGap}),
                       c.flags) << c.list;
+        }
     }
 }
 

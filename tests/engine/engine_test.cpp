@@ -72,8 +72,9 @@ TEST(Engine, ResultTextsOfHandWorkedTraverses)
         Fixture f{c.rows};
         EXPECT_EQ(f.engine.acresbox(), "") << c.what;
         f.engine.mnuGap_Click();
-        if (c.gap)
+        if (c.gap) {
             EXPECT_EQ(f.engine.acresbox(), c.gap) << c.what;
+        }
         f.engine.mnuPeri_Click();
         EXPECT_EQ(f.engine.acresbox(), c.perimeter) << c.what;
         if (c.acres) {

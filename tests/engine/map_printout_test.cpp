@@ -95,8 +95,9 @@ TEST(MapPrintout, CaptionTellsThePrintedScale)
         // 1 inch = n feet: a 100-foot side is 144000 / n twips long on paper.
         const std::vector<Line> lines = mapLines(page);
         EXPECT_NEAR(n, 144000.0 / std::fabs(lines[0].y2 - lines[0].y1), c.factor ? n * 1e-4 : 0.5 + n * 0.002) << c.scale;
-        if (c.factor)
+        if (c.factor) {
             EXPECT_FLOAT_EQ(p.engine.scaleFactor(), c.factor);
+        }
     }
 }
 

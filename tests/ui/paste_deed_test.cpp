@@ -60,9 +60,9 @@ TEST(PasteDeedDialog, RowsFlagsAndSelection)
               "3 course rows read; 1 call in red could not be read: enter it by hand after inserting.");
 
     // The flagged call starts after 58 characters (66 bytes), ends 30 later.
-    const struct { int line; const char *selected; int start; } picks[] = {{0, "thence N 30½° W 100 feet;", 32},
-                 {1, "thence S 48°72′ E 150.00 feet;", 58},
-                 {2, "thence S 60° E 50 feet to the beginning.", 89}};
+    const struct { int line; const char *selected; int start; } picks[] = {
+        {0, "thence N 30½° W 100 feet;", 32}, {1, "thence S 48°72′ E 150.00 feet;", 58},
+        {2, "thence S 60° E 50 feet to the beginning.", 89}};
     for (const auto &p : picks) {
         QTest::mouseClick(t->viewport(), Qt::LeftButton, {}, t->visualItemRect(t->item(p.line, 5)).center());
         const QTextCursor cursor = d.textEdit()->textCursor();
@@ -155,8 +155,9 @@ TEST_F(PasteCommand, IntoTheGridAtTheFocusedRowWithEachAnswer)
         EXPECT_EQ(w->engine().mapComputed(), c.drawn);
         EXPECT_EQ(!w->findChild<MapCanvas *>()->isBlank(), c.drawn);
         expectGridShowsTable();
-        if (c.drawn)
+        if (c.drawn) {
             EXPECT_EQ(cell(6, ColTag), "C");
+        }
     }
 }
 

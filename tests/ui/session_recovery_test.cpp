@@ -15,8 +15,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-class Recovery : public test::WindowTest {
-protected:
+struct Recovery : test::WindowTest {
     std::string file = folder.file("recovery.map");
     std::function<std::string()> snapshot = [this] { return w->engine().mapFileBytes(); };
 };
