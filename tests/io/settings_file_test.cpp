@@ -63,8 +63,7 @@ TEST_F(Settings, TextAndFileReadTheSame)
         {"[Setting]\nScales=1\n  continued\n", "1"}, // a continuation line joins with a line break
         {"no section\nScales=5\n[Setting]\rScales=6\r", "50;100;200;400;800;1500;2000;3000;4000"},
         {"[Setting]\nScales=\n  60\n", ""}, // the first value counts, even an empty one
-        {longScales, std::nullopt},
-    };
+        {longScales, std::nullopt}};
     for (const auto &c : cases) {
         const SettingsValues fromText = readSettingsText(c.content);
         const SettingsValues fromFile = read(c.content);

@@ -35,8 +35,7 @@ TEST(PrintPage, NorthArrowIsSevenStepsAndAnN)
 
 TEST(PrintPage, ScaleCaptionTexts)
 {
-    struct Case { const char *scale, *autoScale; Units units; bool list; const char *caption; };
-    const Case cases[] = {
+    const struct { const char *scale, *autoScale; Units units; bool list; const char *caption; } cases[] = {
         {"1000:1", "AutoScale = 50", Units::Feet, true, "Scale = 1:1000 (Feet)"},
         {"200", "", Units::Meters, true, "Scale = 1:200 (Meters)"},
         {"Standard", "AutoScale = 50", Units::Feet, true, "Scale = 1: 50 (Feet)"},
@@ -45,9 +44,8 @@ TEST(PrintPage, ScaleCaptionTexts)
         {"Maximum", "AutoScale = 7", Units::Other, true, "Scale = 1: 7"},
         {"Small", "", Units::Meters, true, "Scale = 1: (Meters)"},
         {"0", "AutoScale = 3", Units::Feet, false, "Scale = 1: 3"},
-        {"1500.5", "", Units::Feet, false, "Scale = 1:1500.5"},
-    };
-    for (const Case &c : cases)
+        {"1500.5", "", Units::Feet, false, "Scale = 1:1500.5"}};
+    for (const auto &c : cases)
         EXPECT_EQ(scaleCaption(c.scale, c.autoScale, c.units, c.list), c.caption) << c.scale << " " << c.autoScale;
 }
 
@@ -102,8 +100,7 @@ TEST(PrintPage, LayoutPutsTheMapBelowHeadingAndCaption)
 
     // Without heading and list the arrow's tip is at the text origin and the
     // map reaches the bottom margin.
-    text.description = false;
-    text.referenceList = false;
+    text.description = text.referenceList = false;
     const MapPageLayout bare = planMapPage(s, kA4Page, text);
     EXPECT_TRUE(bare.heading.empty());
     EXPECT_FLOAT_EQ(bare.arrowFoot, 1080.0f + 540.0f);
