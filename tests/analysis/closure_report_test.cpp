@@ -203,12 +203,10 @@ bool plant(BlunderKind kind, std::vector<Cells> &rows, int row, std::mt19937 &rn
         return true;
     }
     case BlunderKind::TimesTen: {
-        // The point moves one place; every digit stays.
+        // The point moves one place, either way; every digit stays.
         char buf[32];
-        if (pick(2))
-            std::snprintf(buf, sizeof buf, "%.1f", value(d) * 10.0);
-        else
-            std::snprintf(buf, sizeof buf, "%.3f", value(d) / 10.0);
+        const bool up = pick(2);
+        std::snprintf(buf, sizeof buf, up ? "%.1f" : "%.3f", up ? value(d) * 10.0 : value(d) / 10.0);
         d = buf;
         return true;
     }

@@ -131,7 +131,6 @@ TEST(CourseConversion, HighestIsCappedAt200AndSingleRangeOverflows)
     CourseTable t;
     t.at(201, ColDistance) = "5";
     t.gethighest();
-    ASSERT_EQ(t.highest, 202);
     EXPECT_EQ(convertCourses(t, [](const std::string &) {}).size(), 202u); // rows 0 to 201
     EXPECT_EQ(t.highest, 200);
 

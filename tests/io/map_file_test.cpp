@@ -75,7 +75,6 @@ TEST_F(MapFileTest, RoundTripThroughWindows1252)
     const MapReadResult read = readMapFile(path);
     ASSERT_EQ(read.status, MapReadStatus::Ok);
     EXPECT_EQ(read.rows.size(), 37u);
-    EXPECT_TRUE(read.reachedDescription);
     CourseTable back;
     storeRows(read.rows, back);
     EXPECT_EQ(back.at(0, ColDeg), Cell("45\xC2\xB0"));
@@ -201,10 +200,8 @@ TEST(StoreRows, LeavesRowsPastTheFileAsTheyWere)
     for (int r = 0; r < 40; ++r)
         table.at(r, ColDistance) = "old";
     storeRows(std::vector<MapFileRow>(12, MapFileRow{"N", "", "", "", "", "new"}), table);
-    EXPECT_EQ(table.at(11, ColNS), Cell("N"));
-    EXPECT_EQ(table.at(11, ColDistance), Cell("new"));
-    EXPECT_EQ(table.at(12, ColDistance), Cell("old"));
-    EXPECT_EQ(table.at(12, ColNS), Cell(""));
+    EXPECT_EQ(std::tuple(table.at(11, ColNS), table.at(11, ColDistance), table.at(12, ColNS), table.at(12, ColDistance)),
+              std::tuple(Cell("N"), Cell("new"), Cell(""), Cell("old")));
     table.gethighest();
     EXPECT_EQ(table.highest, 40);
 }

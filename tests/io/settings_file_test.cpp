@@ -51,10 +51,8 @@ TEST_F(Settings, KeysAnyCaseValuesWholeLeadingNumbers)
 TEST_F(Settings, TextAndFileReadTheSame)
 {
     const std::string longScales = "[Setting]\nScales=" + std::string(300, '7') + ";5\n";
-    const struct {
-        std::string content;
-        std::optional<std::string> scales; // nothing: only that both agree
-    } cases[] = {
+    // Where scales is nothing, only that both agree.
+    const struct { std::string content; std::optional<std::string> scales; } cases[] = {
         {"[Setting]\r\nScales=10;20\r\n", "10;20"},
         {std::string("[Setting]\nScales=30\0;40\nScaleMetric=9\n", 31), "30"}, // NUL ends the line's value only
         {std::string("[Set\0ting]\nScales=1\n", 20), "50;100;200;400;800;1500;2000;3000;4000"},

@@ -65,8 +65,7 @@ protected:
     QtSurfaceTest() : image(200, 100, QImage::Format_ARGB32_Premultiplied) { image.fill(QColor(192, 192, 192)); }
 
     /// Paints with @p draw in blue on a surface whose origin is the image's top-left.
-    template <typename Draw>
-    void paint(Draw draw)
+    template <typename Draw> void paint(Draw draw)
     {
         QPainter painter(&image);
         QtPainterSurface surface(painter, DeviceMapping::forPixels(0, 0));
