@@ -283,9 +283,7 @@ void expectPlantedMistakesFound(bool mixed, unsigned seed, int trials)
 
 TEST(Adjustment, FiveSidedTraverseByHand)
 {
-    const ClosureReport report = analyseClosure(fiveSided());
-    ASSERT_EQ(report.lots.size(), 1u);
-    const LotReport &lot = report.lots[0];
+    const LotReport lot = analyseClosure(fiveSided()).lots.at(0);
     EXPECT_EQ(lot.lastRow, 5);
     EXPECT_NEAR(lot.perimeter, 2000.0, 1e-9);
     EXPECT_NEAR(lot.gap.north, -0.0997, 0.0002);
@@ -410,9 +408,7 @@ TEST(Misreadings, DistanceDigitsPointAndChains)
     ASSERT_EQ(count(all, BlunderKind::DegMinSwap), 1);
     const Misreading &swap = *std::find_if(all.begin(), all.end(),
                                            [](const Misreading &m) { return m.kind == BlunderKind::DegMinSwap; });
-    EXPECT_EQ(swap.first.text, "45");
-    EXPECT_EQ(swap.second->column, ColMin);
-    EXPECT_EQ(swap.second->text, "12");
+    EXPECT_EQ(std::tuple(swap.first.text, swap.second->column, swap.second->text), std::tuple("45", ColMin, "12"));
 }
 
 TEST(Misreadings, WholeFeetCardinalRowsAndCurvesByChord)

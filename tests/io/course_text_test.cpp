@@ -44,13 +44,11 @@ TEST(CourseDescription, ClipboardTextJoinsUsedRowsWithCrLf)
 
 TEST(DataListing, RowsTabToTheColumnsAndWrapWhenACellIsTooLong)
 {
-    CourseTable table = test::makeTable({{"N", "45", "30", "15", "E", "100.25", "141.42", "100", "R", "B"}});
+    // Row 1: a 14-character distance passes column 35, so the chord tabs to column 35 of a new line.
+    const CourseTable table = test::makeTable({{"N", "45", "30", "15", "E", "100.25", "141.42", "100", "R", "B"},
+                                               {"", "", "", "", "", "12345678901234", "7", "", "", ""}});
     EXPECT_EQ(dataRowLines(table, 0),
               std::vector<std::string>{"N   45   30   15   E  100.25      141.42      100         R    B"});
-
-    // A 14-character distance passes column 35: the chord tabs to column 35 of a new line.
-    table.at(1, ColDistance) = "12345678901234";
-    table.at(1, ColChord) = "7";
     EXPECT_EQ(dataRowLines(table, 1),
               (std::vector<std::string>{"                      12345678901234", "                                  7"}));
 }

@@ -38,8 +38,7 @@ TEST_F(Settings, KeysAnyCaseValuesWholeLeadingNumbers)
                                   "ReferencePoints=1\r\nReferencePoints=0\r\n");
     EXPECT_EQ(s.scales, "250;abc;;0.5");
     EXPECT_EQ(scaleItems(s.scales), (std::vector<std::string>{" 250", " 0", " 0", " .5"}));
-    EXPECT_EQ(s.scaleMetric, 600.0f);
-    EXPECT_EQ(s.scaleEnglish, 0.0f);
+    EXPECT_EQ(std::pair(s.scaleMetric, s.scaleEnglish), std::pair(600.0f, 0.0f));
     // PropertyDescr missing: its default; BalanceGap 2.5 rounds half to even; the first of two keys counts.
     EXPECT_EQ(s.printOptions, (std::array<int16_t, 5>{1, 0, 1, 1, 2}));
     EXPECT_TRUE(scaleItems(read("[Setting]\nScales=\n").scales).empty());

@@ -133,9 +133,8 @@ TEST(ZoomFit, PictureWindowAndTheSixtyTwipJumpWhenTheDragEnds)
 {
     const ZoomPicture p = zoomPicture(11520.0f); // twice the screen height, with its scroll bars
     EXPECT_EQ(std::tuple(p.side, p.scrollMax, p.smallChange), std::tuple(23040.0f, 16128, 1612));
-    EXPECT_EQ(zoomPictureOffset(1000, false), -1000);
-    EXPECT_EQ(zoomPictureOffset(1000, true), -940);
-    EXPECT_EQ(zoomPictureOffset(0, true), 60);
+    EXPECT_EQ(std::tuple(zoomPictureOffset(1000, false), zoomPictureOffset(1000, true), zoomPictureOffset(0, true)),
+              std::tuple(-1000, -940, 60));
     const ZoomWindowPlacement w = zoomWindowPlacement(15360, 11520);
     EXPECT_EQ(std::tuple(w.height, w.width, w.left, w.top), std::tuple(10800, 10800, 2280, 240));
 }
