@@ -2,6 +2,7 @@
 // conversion of the table, the curve calculator and the reciprocal angle.
 
 #include <stdexcept>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -9,6 +10,7 @@
 #include "global_conversion.h"
 #include "reciprocal_angle.h"
 #include "shortcut_conversion.h"
+#include "table_builder.h"
 #include "unit_converter.h"
 #include "vb_math.h"
 
@@ -31,8 +33,7 @@ TEST(UnitConverter, ConvertsAndReportsAsTyped)
         {UC::MetersToFeet, "-2", "-6.562", "-2 Meters = -6.562 Feet"}};
     for (const auto &c : cases) {
         const CalcResult r = runConverter(c.converter, c.answer);
-        EXPECT_EQ(r.clipboard, c.result);
-        EXPECT_EQ(r.acresbox, c.acresbox);
+        EXPECT_EQ(std::tuple(r.clipboard, r.acresbox), std::tuple(c.result, c.acresbox));
         EXPECT_TRUE(r.messages.empty() && !r.field) << c.answer;
     }
     // Bad answers change nothing.
@@ -78,8 +79,7 @@ TEST(GlobalConversion, RoundsToHundredthsHalfToEven)
 // The data sit in row 0 only, which is converted too.
 TEST(GlobalConversion, ConvertingTwiceMultipliesTwiceAndSetsTheUnits)
 {
-    CourseTable table;
-    table.at(0, ColDistance) = Cell("100");
+    CourseTable table = test::makeTable({{"", "", "", "", "", "100", "", "", "", ""}});
     const GlobalConversion meters = GlobalConversion::toFeet(0);
     EXPECT_EQ(meters.apply(table), Units::Feet);
     EXPECT_NEAR(table.at(0, ColDistance).number(), 328.1, 1e-9);
@@ -114,11 +114,8 @@ TEST(GlobalConversion, TouchesOnlyLengthColumnsOfRowsUpToHighestPlusOne)
 
 TEST(GlobalConversion, TypeMismatchStopsWhereItIs)
 {
-    CourseTable table;
-    table.at(0, ColDistance) = Cell("100");
-    table.at(1, ColDistance) = Cell("50");
-    table.at(1, ColChord) = Cell("12abc");
-    table.at(1, ColRadius) = Cell("10");
+    CourseTable table = test::makeTable({{"", "", "", "", "", "100", "", "", "", ""},
+                                         {"", "", "", "", "", "50", "12abc", "10", "", ""}});
     try {
         GlobalConversion::toFeet(0).apply(table);
         ADD_FAILURE() << "no type mismatch";

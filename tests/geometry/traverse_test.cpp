@@ -83,10 +83,9 @@ TEST(CourseConversion, DirectionOfTheLastRow)
         {"a curve with a bearing sets the running direction to its chord", {{"N", "45", "", "", "W", "", "300", "500", "L", ""}, {"", "", "", "", "", "10", "", "", "", ""}}, -135.0f},
     };
     for (const auto &c : cases) {
-        LegTable legs = convert(makeTable(c.rows));
-        const size_t r = c.rows.size();
-        ASSERT_TRUE(legs[r - 1].direction.has_value()) << c.what;
-        EXPECT_NEAR(*legs[r - 1].direction, c.direction, 2e-4) << c.what;
+        const auto direction = convert(makeTable(c.rows))[c.rows.size() - 1].direction;
+        ASSERT_TRUE(direction.has_value()) << c.what;
+        EXPECT_NEAR(*direction, c.direction, 2e-4) << c.what;
     }
 }
 
@@ -204,10 +203,8 @@ TEST(Walk, BeginningNewLotAndOrigin)
     ASSERT_EQ(circles.size(), 1u);
     EXPECT_FLOAT_EQ(circles[0].radius, 30.0f);
     EXPECT_NEAR(circles[0].centre.y, -50.0f, 1e-3);
-    std::vector<FigLine> lines;
-    for (const FigLine &l : itemsOf<FigLine>(w.figure))
-        if (!(l.from == l.to)) // empty rows step by nothing
-            lines.push_back(l);
+    std::vector<FigLine> lines = itemsOf<FigLine>(w.figure);
+    std::erase_if(lines, [](const FigLine &l) { return l.from == l.to; }); // empty rows step by nothing
     ASSERT_EQ(lines.size(), 4u);
     EXPECT_NEAR(lines[3].from.x, 100.0f, 1e-3); // the new lot starts at the origin
     EXPECT_NEAR(lines[3].from.y, 0.0f, 1e-3);

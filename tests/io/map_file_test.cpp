@@ -114,9 +114,8 @@ TEST_F(MapFileTest, ReadsLinesOfEveryShape)
         {"Windows-1252", "\xE9\t45\xB0\r\n~\x80", {{"\xC3\xA9", "45\xC2\xB0"}}, true, "\xE2\x82\xAC"}};
     for (const auto &c : cases) {
         const MapReadResult read = readMapFile(put(c.bytes));
-        ASSERT_EQ(read.status, MapReadStatus::Ok) << c.what;
-        EXPECT_EQ(std::tuple(read.rows, read.reachedDescription, read.description, read.droppedRows),
-                  std::tuple(c.rows, c.reached, c.description, 0u)) << c.what;
+        EXPECT_EQ(std::tuple(read.status, read.rows, read.reachedDescription, read.description, read.droppedRows),
+                  std::tuple(MapReadStatus::Ok, c.rows, c.reached, c.description, 0u)) << c.what;
     }
 }
 
