@@ -9,6 +9,7 @@
 #include <map>
 #include <numbers>
 #include <random>
+#include <tuple>
 
 #include "closure_report.h"
 #include "misreadings.h"
@@ -45,12 +46,9 @@ namespace {
 // turned 10.3" counter-clockwise and 0.0200 shorter.
 CourseTable fiveSided()
 {
-    return makeTable({{"", "", "", "", "", "", "", "", "", "B"},
-                      {"N", "0", "0", "0", "E", "500.00", "", "", "", ""},
-                      {"N", "90", "0", "0", "E", "400.00", "", "", "", ""},
-                      {"S", "36", "52", "12", "E", "250.00", "", "", "", ""},
-                      {"S", "0", "0", "0", "W", "300.10", "", "", "", ""},
-                      {"N", "90", "0", "0", "W", "549.90", "", "", "", ""}});
+    return makeTable({{"", "", "", "", "", "", "", "", "", "B"}, {"N", "0", "0", "0", "E", "500.00", "", "", "", ""},
+        {"N", "90", "0", "0", "E", "400.00", "", "", "", ""}, {"S", "36", "52", "12", "E", "250.00", "", "", "", ""},
+        {"S", "0", "0", "0", "W", "300.10", "", "", "", ""}, {"N", "90", "0", "0", "W", "549.90", "", "", "", ""}});
 }
 
 struct Corner { double north, east; };
@@ -89,12 +87,7 @@ bool sameCall(const Cells &a, const Cells &b)
     return true;
 }
 
-std::string fixed2(double v)
-{
-    char buf[32];
-    std::snprintf(buf, sizeof buf, "%.2f", v);
-    return buf;
-}
+std::string fixed2(double v) { char buf[32]; std::snprintf(buf, sizeof buf, "%.2f", v); return buf; }
 
 // Direction in whole seconds clockwise from east, as the plotter turns a bearing.
 long directionSeconds(const Cells &c, long s)
@@ -210,12 +203,10 @@ bool plant(BlunderKind kind, std::vector<Cells> &rows, int row, std::mt19937 &rn
         return true;
     }
     case BlunderKind::TimesTen: {
-        // The point moves one place; every digit stays.
+        // The point moves one place, either way; every digit stays.
         char buf[32];
-        if (pick(2))
-            std::snprintf(buf, sizeof buf, "%.1f", value(d) * 10.0);
-        else
-            std::snprintf(buf, sizeof buf, "%.3f", value(d) / 10.0);
+        const bool up = pick(2);
+        std::snprintf(buf, sizeof buf, up ? "%.1f" : "%.3f", up ? value(d) * 10.0 : value(d) / 10.0);
         d = buf;
         return true;
     }
@@ -292,9 +283,7 @@ void expectPlantedMistakesFound(bool mixed, unsigned seed, int trials)
 
 TEST(Adjustment, FiveSidedTraverseByHand)
 {
-    const ClosureReport report = analyseClosure(fiveSided());
-    ASSERT_EQ(report.lots.size(), 1u);
-    const LotReport &lot = report.lots[0];
+    const LotReport lot = analyseClosure(fiveSided()).lots.at(0);
     EXPECT_EQ(lot.lastRow, 5);
     EXPECT_NEAR(lot.perimeter, 2000.0, 1e-9);
     EXPECT_NEAR(lot.gap.north, -0.0997, 0.0002);
@@ -309,8 +298,7 @@ TEST(Adjustment, FiveSidedTraverseByHand)
 
     const Corner compass[] = {{500.0250, -0.0250}, {500.0450, 399.9550}, {300.0575, 549.9425}, {-0.0275, 549.9275}, {0, 0}};
     const Corner transit[] = {{500.0500, 0}, {500.0500, 399.9636}, {300.0700, 549.9500}, {0, 549.9500}, {0, 0}};
-    ASSERT_EQ(lot.compass.calls.size(), 5u);
-    ASSERT_EQ(lot.transit.calls.size(), 5u);
+    ASSERT_EQ(std::pair(lot.compass.calls.size(), lot.transit.calls.size()), std::pair(5ul, 5ul));
     for (int i = 0; i < 5; ++i) {
         SCOPED_TRACE(i);
         EXPECT_EQ(lot.compass.calls[i].row, i + 1);
@@ -336,10 +324,8 @@ TEST(Adjustment, CurveKeepsItsRadiusAndItsSegmentCountsOnItsSide)
     for (const char *side : {"R", "L"}) {
         SCOPED_TRACE(side);
         const LotReport lot = analyseClosure(makeTable({{"N", "0", "0", "0", "E", "100", "", "", "", ""},
-                                                        {"N", "90", "0", "0", "E", "", "100", "100", side, ""},
-                                                        {"S", "0", "0", "0", "E", "100", "", "", "", ""},
-                                                        {"N", "90", "0", "0", "W", "100", "", "", "", ""}}))
-                                  .lots.at(0);
+            {"N", "90", "0", "0", "E", "", "100", "100", side, ""}, {"S", "0", "0", "0", "E", "100", "", "", "", ""},
+            {"N", "90", "0", "0", "W", "100", "", "", "", ""}})).lots.at(0);
         EXPECT_LT(lot.gap.distance, 1e-4);
         EXPECT_NEAR(lot.perimeter, 300.0 + 104.72, 0.01);
         EXPECT_NEAR(lot.compass.area, side[0] == 'R' ? 10905.86 : 9094.14, 0.05);
@@ -355,15 +341,12 @@ TEST(Adjustment, LotsAreCutAtNewLotRowsAndCloseWhereBeginPutThePen)
     // A tie course east 50, then "B"; a 10 x 10 square with its last side 1 short;
     // "N"; a 20 x 20 square from the origin without a "B" of its own, which the
     // plotter closes on the first lot's point of beginning, 50 east.
-    const ClosureReport report = analyseClosure(makeTable({{"N", "90", "0", "0", "E", "50", "", "", "", "B"},
-                                                           {"N", "0", "0", "0", "E", "10", "", "", "", ""},
-                                                           {"N", "90", "0", "0", "E", "10", "", "", "", ""},
-                                                           {"S", "0", "0", "0", "E", "10", "", "", "", ""},
-                                                           {"N", "90", "0", "0", "W", "9", "", "", "", "N"},
-                                                           {"N", "0", "0", "0", "E", "20", "", "", "", ""},
-                                                           {"N", "90", "0", "0", "E", "20", "", "", "", ""},
-                                                           {"S", "0", "0", "0", "E", "20", "", "", "", ""},
-                                                           {"N", "90", "0", "0", "W", "20", "", "", "", ""}}));
+    const ClosureReport report = analyseClosure(makeTable(
+        {{"N", "90", "0", "0", "E", "50", "", "", "", "B"}, {"N", "0", "0", "0", "E", "10", "", "", "", ""},
+         {"N", "90", "0", "0", "E", "10", "", "", "", ""}, {"S", "0", "0", "0", "E", "10", "", "", "", ""},
+         {"N", "90", "0", "0", "W", "9", "", "", "", "N"}, {"N", "0", "0", "0", "E", "20", "", "", "", ""},
+         {"N", "90", "0", "0", "E", "20", "", "", "", ""}, {"S", "0", "0", "0", "E", "20", "", "", "", ""},
+         {"N", "90", "0", "0", "W", "20", "", "", "", ""}}));
     ASSERT_EQ(report.lots.size(), 2u);
     EXPECT_EQ(std::pair(report.lots[0].firstRow, report.lots[0].lastRow), std::pair(0, 4));
     EXPECT_NEAR(report.lots[0].pobEast, 50.0, 1e-6);
@@ -383,40 +366,28 @@ TEST(BlunderSearch, FindsThePlantedMistakeInItsTopThree) { expectPlantedMistakes
 
 TEST(BlunderSearch, FindsThePlantedMistakeAmongCurvesAndTurnedCourses) { expectPlantedMistakesFound(true, 7, 300); }
 
-TEST(BlunderSearch, CoursesTurnedFromTheWrongCallTurnBackWithIt)
+TEST(BlunderSearch, BestSuggestionPutsBackTheCallAndCloses)
 {
-    // East typed as west on row 1; row 2 turns 90 degrees right from it, so it
-    // runs north instead of south, and only flipping row 1 closes the square.
-    const CourseTable table = test::makeTable({{"N", "0", "0", "0", "E", "100", "", "", "", ""},
-                                               {"N", "90", "0", "0", "W", "100", "", "", "", ""},
-                                               {"+", "90", "0", "0", "", "100", "", "", "", ""},
-                                               {"N", "90", "0", "0", "W", "100", "", "", "", ""}});
-    const LotReport lot = analyseClosure(table).lots.at(0);
-    EXPECT_NEAR(lot.gap.distance, std::hypot(200.0, 200.0), 1e-3);
-    ASSERT_FALSE(lot.suggestions.empty());
-    const Suggestion &best = lot.suggestions[0];
-    EXPECT_EQ(best.kind, BlunderKind::EwFlip);
-    EXPECT_EQ(best.row, 1);
-    EXPECT_EQ(best.cells[ColEW - 1], "E");
-    EXPECT_LT(best.gap.distance, 1e-3);
-}
-
-TEST(BlunderSearch, OmittedCallIsTheReversedGapAndClosesWhenInserted)
-{
-    // A square missing its west side; nothing else closes it as well.
-    CourseTable table = test::makeTable({{"", "", "", "", "", "", "", "", "", "B"},
-                                         {"N", "0", "0", "0", "E", "250", "", "", "", ""},
-                                         {"N", "90", "0", "0", "E", "250", "", "", "", ""},
-                                         {"S", "0", "0", "0", "E", "250", "", "", "", ""}});
-    const LotReport lot = analyseClosure(table).lots.at(0);
-    ASSERT_FALSE(lot.suggestions.empty());
-    const Suggestion &best = lot.suggestions[0];
-    EXPECT_EQ(best.kind, BlunderKind::Omitted);
-    EXPECT_EQ(best.row, 4);
-    EXPECT_EQ(best.cells, (Cells{"N", "90", "0", "0", "W", "250", "", "", "", ""}));
-    applySuggestion(table, best);
-    EXPECT_EQ(table.at(4, ColEW).text(), "W");
-    EXPECT_LT(analyseClosure(table).lots.at(0).gap.distance, 1e-3);
+    // East typed as west on row 1, and row 2 turns 90 degrees right from it (so runs north, not south):
+    // only flipping row 1, which turns row 2 back with it, closes the square. Then a square missing its
+    // west side, which nothing closes as well as the reversed gap inserted as row 4.
+    const struct { std::vector<test::Row> rows; BlunderKind kind; int row; Cells cells; } cases[] = {
+        {{{"N", "0", "0", "0", "E", "100", "", "", "", ""}, {"N", "90", "0", "0", "W", "100", "", "", "", ""},
+          {"+", "90", "0", "0", "", "100", "", "", "", ""}, {"N", "90", "0", "0", "W", "100", "", "", "", ""}},
+         BlunderKind::EwFlip, 1, {"N", "90", "0", "0", "E", "100", "", "", "", ""}},
+        {{{"", "", "", "", "", "", "", "", "", "B"}, {"N", "0", "0", "0", "E", "250", "", "", "", ""},
+          {"N", "90", "0", "0", "E", "250", "", "", "", ""}, {"S", "0", "0", "0", "E", "250", "", "", "", ""}},
+         BlunderKind::Omitted, 4, {"N", "90", "0", "0", "W", "250", "", "", "", ""}}};
+    for (const auto &c : cases) {
+        CourseTable table = makeTable(c.rows);
+        const LotReport lot = analyseClosure(table).lots.at(0);
+        ASSERT_FALSE(lot.suggestions.empty());
+        const Suggestion &best = lot.suggestions[0];
+        EXPECT_EQ(std::tuple(best.kind, best.row, best.cells), std::tuple(c.kind, c.row, c.cells));
+        EXPECT_LT(best.gap.distance, 1e-3);
+        applySuggestion(table, best);
+        EXPECT_LT(analyseClosure(table).lots.at(0).gap.distance, 1e-3);
+    }
 }
 
 TEST(Misreadings, DistanceDigitsPointAndChains)
@@ -437,9 +408,7 @@ TEST(Misreadings, DistanceDigitsPointAndChains)
     ASSERT_EQ(count(all, BlunderKind::DegMinSwap), 1);
     const Misreading &swap = *std::find_if(all.begin(), all.end(),
                                            [](const Misreading &m) { return m.kind == BlunderKind::DegMinSwap; });
-    EXPECT_EQ(swap.first.text, "45");
-    EXPECT_EQ(swap.second->column, ColMin);
-    EXPECT_EQ(swap.second->text, "12");
+    EXPECT_EQ(std::tuple(swap.first.text, swap.second->column, swap.second->text), std::tuple("45", ColMin, "12"));
 }
 
 TEST(Misreadings, WholeFeetCardinalRowsAndCurvesByChord)

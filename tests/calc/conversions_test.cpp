@@ -2,6 +2,7 @@
 // conversion of the table, the curve calculator and the reciprocal angle.
 
 #include <stdexcept>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -9,6 +10,7 @@
 #include "global_conversion.h"
 #include "reciprocal_angle.h"
 #include "shortcut_conversion.h"
+#include "table_builder.h"
 #include "unit_converter.h"
 #include "vb_math.h"
 
@@ -24,17 +26,14 @@ TEST(UnitConverter, ConvertsAndReportsAsTyped)
         {UC::Chains, "10.05", "663.3", "10.05 Chains = 663.3 feet"},     // 10.05 x 66
         {UC::Links, "1", "0.66", "1 Links = 0.66 feet"},                 // 66 / 100
         {UC::Rods, " 12 ", "198.0", " 12  Rods = 198.0 feet"},           // 12 x 16.5; answer as typed
-        {UC::Perches, "1", "16.5", "1 Perches = 16.5 feet"},
-        {UC::Furlongs, "1", "660.0", "1 Furlongs = 660.0 feet"},
+        {UC::Perches, "1", "16.5", "1 Perches = 16.5 feet"}, {UC::Furlongs, "1", "660.0", "1 Furlongs = 660.0 feet"},
         {UC::Varas, "3.5", "9.7222", "3.5 Varas = 9.7222 feet"},         // 3.5 / 0.36 = 9.72222...
-        {UC::Yards, "1", "3.0", "1 Yards = 3.0 Feet"},
-        {UC::FeetToMeters, "3.281", "1.0", "3.281 Feet = 1.0 Meters"},
+        {UC::Yards, "1", "3.0", "1 Yards = 3.0 Feet"}, {UC::FeetToMeters, "3.281", "1.0", "3.281 Feet = 1.0 Meters"},
         {UC::FeetToMeters, "1000", "304.7851", "1000 Feet = 304.7851 Meters"}, // 304.78512...
         {UC::MetersToFeet, "-2", "-6.562", "-2 Meters = -6.562 Feet"}};
     for (const auto &c : cases) {
         const CalcResult r = runConverter(c.converter, c.answer);
-        EXPECT_EQ(r.clipboard, c.result);
-        EXPECT_EQ(r.acresbox, c.acresbox);
+        EXPECT_EQ(std::tuple(r.clipboard, r.acresbox), std::tuple(c.result, c.acresbox));
         EXPECT_TRUE(r.messages.empty() && !r.field) << c.answer;
     }
     // Bad answers change nothing.
@@ -61,8 +60,7 @@ TEST(ShortcutConversion, ConvertsTheFieldOnly)
 TEST(GlobalConversion, RoundsToHundredthsHalfToEven)
 {
     const struct { int index; const char *text; double expected; } cases[] = {
-        {0, "100", 328.1}, {1, "250.05", 16503.3}, {2, "2", 33.0}, {3, "0.5", 330.0},
-        {4, "1", 2.78},      // 2.7777778
+        {0, "100", 328.1}, {1, "250.05", 16503.3}, {2, "2", 33.0}, {3, "0.5", 330.0}, {4, "1", 2.78}, // 2.7777778
         {5, "0.333", 1.0},   // 0.999 to hundredths
         {1, "0.0625", 4.12}, // 412.5 hundredths: tie to even 412
         {5, "0.125", 0.38},  // 37.5 hundredths: tie to even 38
@@ -81,8 +79,7 @@ TEST(GlobalConversion, RoundsToHundredthsHalfToEven)
 // The data sit in row 0 only, which is converted too.
 TEST(GlobalConversion, ConvertingTwiceMultipliesTwiceAndSetsTheUnits)
 {
-    CourseTable table;
-    table.at(0, ColDistance) = Cell("100");
+    CourseTable table = test::makeTable({{"", "", "", "", "", "100", "", "", "", ""}});
     const GlobalConversion meters = GlobalConversion::toFeet(0);
     EXPECT_EQ(meters.apply(table), Units::Feet);
     EXPECT_NEAR(table.at(0, ColDistance).number(), 328.1, 1e-9);
@@ -117,11 +114,8 @@ TEST(GlobalConversion, TouchesOnlyLengthColumnsOfRowsUpToHighestPlusOne)
 
 TEST(GlobalConversion, TypeMismatchStopsWhereItIs)
 {
-    CourseTable table;
-    table.at(0, ColDistance) = Cell("100");
-    table.at(1, ColDistance) = Cell("50");
-    table.at(1, ColChord) = Cell("12abc");
-    table.at(1, ColRadius) = Cell("10");
+    CourseTable table = test::makeTable({{"", "", "", "", "", "100", "", "", "", ""},
+                                         {"", "", "", "", "", "50", "12abc", "10", "", ""}});
     try {
         GlobalConversion::toFeet(0).apply(table);
         ADD_FAILURE() << "no type mismatch";
@@ -188,8 +182,7 @@ TEST(ReciprocalAngle, ComplementsToNinetyDegrees)
 {
     const struct { const char *answer, *acresbox; } cases[] = {
         // 324000 - 162620 = 161380" = 44 x 3600 + 49 x 60 + 40
-        {"45 10 20", "Reciprocal of 45 10 20 = 44  49  40"},
-        {"90 0 0", "Reciprocal of 90 0 0 = 0  0  0"},
+        {"45 10 20", "Reciprocal of 45 10 20 = 44  49  40"}, {"90 0 0", "Reciprocal of 90 0 0 = 0  0  0"},
         // 324000 - 219660 = 104340" = 28 x 3600 + 59 x 60 + 0
         {"60 60 60", "Reciprocal of 60 60 60 = 28  59  0"},
         // 161379.5" rounds to even 161380 -> 44; 2979.5 rounds to 2980 -> 49; 39.5" left

@@ -72,8 +72,7 @@ TEST(Tokenizer, ShapesAndSpans)
         {"N45-30-15E", "n 45 - 30 - 15 e"},                                // a glued bearing splits
         {"to the place of begin-\nning", "to the place of beginning"},    // a hyphenated line break joins
         {"S 2?°1?'40\" W", "s 2 ? deg 1 ? min 40 sec w"},                 // lost digits are marked
-        {"10 chams 5 hnks to the P.O.B. T0 Brown's", "10 chains 5 links to the pob to browns"},
-    };
+        {"10 chams 5 hnks to the P.O.B. T0 Brown's", "10 chains 5 links to the pob to browns"}};
     for (const auto &c : cases)
         EXPECT_EQ(shape(c.text), c.shape) << c.text;
     // Spans point into the text.

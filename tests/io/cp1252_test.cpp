@@ -17,8 +17,7 @@ TEST(Cp1252, ConvertsBothWays)
 {
     const Pair cases[] = {
         {"N 12 E", "N 12 E"}, {"\xE9", "\xC3\xA9"}, {"45\xB0", "45\xC2\xB0"}, {"\x80", "\xE2\x82\xAC"},
-        {"\x9F\x8A", "\xC5\xB8\xC5\xA0"}, {"\x81\x9D", "\xC2\x81\xC2\x9D"}, {"a\0b"s, "a\0b"s},
-    };
+        {"\x9F\x8A", "\xC5\xB8\xC5\xA0"}, {"\x81\x9D", "\xC2\x81\xC2\x9D"}, {"a\0b"s, "a\0b"s}};
     for (const auto &c : cases) {
         EXPECT_EQ(cp1252ToUtf8(c.cp1252), c.utf8);
         EXPECT_EQ(utf8ToCp1252(c.utf8), c.cp1252);
@@ -40,8 +39,7 @@ TEST(Cp1252, UnmappableAndMalformedBecomeQuestionMarks)
         {"??", "\xC0\xAF"},                // overlong "/"
         {"???", "\xED\xA0\x80"},           // surrogate half
         {"????", "\xF4\x90\x80\x80"},      // past U+10FFFF
-        {"?", "\xC3"},                     // cut off by the end of the text
-    };
+        {"?", "\xC3"}};                    // cut off by the end of the text
     for (const auto &c : cases)
         EXPECT_EQ(utf8ToCp1252(c.utf8), c.cp1252) << c.utf8;
 }

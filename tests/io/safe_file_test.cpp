@@ -53,12 +53,10 @@ TEST_F(SafeFileTest, RefusesTargetsThatAreNotRegularFiles)
     fs::create_symlink("loop2", m_dir / "loop1");
     fs::create_symlink("loop1", m_dir / "loop2");
     const struct { std::string path; std::string reason; } cases[] = {
-        {"/dev/null", "it is a device, not a file"},
-        {(m_dir / "fifo").string(), "it is a pipe (FIFO), not a file"},
+        {"/dev/null", "it is a device, not a file"}, {(m_dir / "fifo").string(), "it is a pipe (FIFO), not a file"},
         {(m_dir / "folder").string(), "it is a folder"},
         {(m_dir / "dangling").string(), "it is a link to a file that does not exist"},
-        {(m_dir / "loop1").string(), "it is a link that loops"},
-    };
+        {(m_dir / "loop1").string(), "it is a link that loops"}};
     for (const auto &c : cases) {
         const FileOutcome out = writeFileSafely(c.path, "x");
         EXPECT_FALSE(out.ok) << c.path;
@@ -94,8 +92,7 @@ TEST_F(SafeFileTest, ReadNamesItsReason)
         {(m_dir / "none.map").string(), FileProblem::NotFound, "there is no such file"},
         {m_dir.string(), FileProblem::NotRegular, "it is a folder"},
         {(m_dir / "fifo").string(), FileProblem::NotRegular, "it is a pipe (FIFO), not a file"},
-        {(m_dir / "big.map").string(), FileProblem::TooLarge, "it is larger than the limit of 1 KiB"},
-    };
+        {(m_dir / "big.map").string(), FileProblem::TooLarge, "it is larger than the limit of 1 KiB"}};
     std::string bytes;
     for (const auto &c : cases) {
         const FileOutcome out = readFileLimited(c.path, 1024, bytes);

@@ -38,8 +38,7 @@ TEST_F(Settings, KeysAnyCaseValuesWholeLeadingNumbers)
                                   "ReferencePoints=1\r\nReferencePoints=0\r\n");
     EXPECT_EQ(s.scales, "250;abc;;0.5");
     EXPECT_EQ(scaleItems(s.scales), (std::vector<std::string>{" 250", " 0", " 0", " .5"}));
-    EXPECT_EQ(s.scaleMetric, 600.0f);
-    EXPECT_EQ(s.scaleEnglish, 0.0f);
+    EXPECT_EQ(std::pair(s.scaleMetric, s.scaleEnglish), std::pair(600.0f, 0.0f));
     // PropertyDescr missing: its default; BalanceGap 2.5 rounds half to even; the first of two keys counts.
     EXPECT_EQ(s.printOptions, (std::array<int16_t, 5>{1, 0, 1, 1, 2}));
     EXPECT_TRUE(scaleItems(read("[Setting]\nScales=\n").scales).empty());
@@ -51,10 +50,8 @@ TEST_F(Settings, KeysAnyCaseValuesWholeLeadingNumbers)
 TEST_F(Settings, TextAndFileReadTheSame)
 {
     const std::string longScales = "[Setting]\nScales=" + std::string(300, '7') + ";5\n";
-    const struct {
-        std::string content;
-        std::optional<std::string> scales; // nothing: only that both agree
-    } cases[] = {
+    // Where scales is nothing, only that both agree.
+    const struct { std::string content; std::optional<std::string> scales; } cases[] = {
         {"[Setting]\r\nScales=10;20\r\n", "10;20"},
         {std::string("[Setting]\nScales=30\0;40\nScaleMetric=9\n", 31), "30"}, // NUL ends the line's value only
         {std::string("[Set\0ting]\nScales=1\n", 20), "50;100;200;400;800;1500;2000;3000;4000"},
@@ -63,8 +60,7 @@ TEST_F(Settings, TextAndFileReadTheSame)
         {"[Setting]\nScales=1\n  continued\n", "1"}, // a continuation line joins with a line break
         {"no section\nScales=5\n[Setting]\rScales=6\r", "50;100;200;400;800;1500;2000;3000;4000"},
         {"[Setting]\nScales=\n  60\n", ""}, // the first value counts, even an empty one
-        {longScales, std::nullopt},
-    };
+        {longScales, std::nullopt}};
     for (const auto &c : cases) {
         const SettingsValues fromText = readSettingsText(c.content);
         const SettingsValues fromFile = read(c.content);

@@ -29,8 +29,7 @@ TEST(FigurePainter, PaintsTheItemsOfTheDeviceInOrderAndColour)
                       end = "#800000 text 900 600 0 x";
     const struct { Target which; Calls expected; } cases[] = {
         {Target::Screen, {line, mark, arc, end}}, {Target::Printer, {line, label, arc}},
-        {Target::Both, {line, label, mark, arc, end}},
-    };
+        {Target::Both, {line, label, mark, arc, end}}};
     for (const auto &c : cases) {
         RecordingSurface surface;
         paintFigure(kMixed, surface, c.which);
@@ -51,8 +50,7 @@ TEST(FigurePainter, ScaleLeftMovesTheEdgeForLaterItemsOnly)
     paintFigure(f, screen, Target::Screen);
     paintFigure(f, printer, Target::Printer);
     EXPECT_EQ(screen.calls(), (Calls{"#800000 text 2000 300 0 x", "scaleLeft -360",
-                                     "#800000 text 0 600 0 CANNOT CLOSE.",
-                                     "#800000 text 0 600 1 Error in curve."}));
+                                     "#800000 text 0 600 0 CANNOT CLOSE.", "#800000 text 0 600 1 Error in curve."}));
     EXPECT_EQ(printer.calls(), (Calls{"#800000 text 2000 300 0 x"}));
 }
 

@@ -39,11 +39,10 @@ FitResult fit(const LegTable &legs, const std::string &scale = "Standard", bool 
 
 TEST(Rescaling, LevelFactors)
 {
-    struct Case { const char *text; double factor; };
-    const Case cases[] = {{"Minimum", 0.36}, {"small", 0.48}, {" STANDARD ", 0.72}, {"Maximum", 0.96},
-                          {" 200", 0.72}, {"1000:1", 0.72}, {"Custom", 0.72}, {"", 0.72}};
-    for (const Case &c : cases)
-        EXPECT_EQ(levelFactor(c.text), c.factor) << c.text;
+    const std::pair<const char *, double> cases[] = {{"Minimum", 0.36}, {"small", 0.48}, {" STANDARD ", 0.72},
+        {"Maximum", 0.96}, {" 200", 0.72}, {"1000:1", 0.72}, {"Custom", 0.72}, {"", 0.72}};
+    for (const auto &[text, factor] : cases)
+        EXPECT_EQ(levelFactor(text), factor) << text;
 }
 
 TEST(Rescaling, ScreenAndPrintedFactors)
@@ -56,8 +55,7 @@ TEST(Rescaling, ScreenAndPrintedFactors)
         {"1000:1", true, Units::Feet, 1.44f},  // 1440 / 1000
         {" 200", true, Units::Meters, 2.88f},  // 576 / 200
         {" 200", true, Units::Other, 103.68f}, // doubled
-        {"Standard", true, Units::Feet, 103.68f},
-    };
+        {"Standard", true, Units::Feet, 103.68f}};
     for (const auto &c : cases)
         EXPECT_FLOAT_EQ(fit(east, c.scale, c.printing, c.units).scaleFactor, c.factor) << c.scale << c.printing;
     // Centred: offX = (7200 - 5184) / 2 = 1008, offY = (4800 - 51.84) / 2 = 2374.08.
@@ -122,10 +120,10 @@ TEST(ZoomFit, FitsNinetyFivePercentAndCentres)
 
 TEST(ZoomFit, Magnifications)
 {
-    struct Case { const char *answer; double button, menu; };
-    const Case cases[] = {{"", 0.95, 0.95}, {"abc", 0.95, 0.95}, {"6", 6 / 6.3, 6.0},   {"1", 1 / 6.3, 1.0},
-                          {"0", 0.95, 0.95}, {"-2", -2 / 6.3, -2.0}, {"0.6", 0.6 / 6.3, 0.6}};
-    for (const Case &c : cases) {
+    const struct { const char *answer; double button, menu; } cases[] = {
+        {"", 0.95, 0.95}, {"abc", 0.95, 0.95}, {"6", 6 / 6.3, 6.0}, {"1", 1 / 6.3, 1.0}, {"0", 0.95, 0.95},
+        {"-2", -2 / 6.3, -2.0}, {"0.6", 0.6 / 6.3, 0.6}};
+    for (const auto &c : cases) {
         EXPECT_DOUBLE_EQ(redrawButtonMagnification(c.answer), c.button) << c.answer;
         EXPECT_DOUBLE_EQ(redrawMenuMagnification(c.answer), c.menu) << c.answer;
     }
@@ -135,9 +133,8 @@ TEST(ZoomFit, PictureWindowAndTheSixtyTwipJumpWhenTheDragEnds)
 {
     const ZoomPicture p = zoomPicture(11520.0f); // twice the screen height, with its scroll bars
     EXPECT_EQ(std::tuple(p.side, p.scrollMax, p.smallChange), std::tuple(23040.0f, 16128, 1612));
-    EXPECT_EQ(zoomPictureOffset(1000, false), -1000);
-    EXPECT_EQ(zoomPictureOffset(1000, true), -940);
-    EXPECT_EQ(zoomPictureOffset(0, true), 60);
+    EXPECT_EQ(std::tuple(zoomPictureOffset(1000, false), zoomPictureOffset(1000, true), zoomPictureOffset(0, true)),
+              std::tuple(-1000, -940, 60));
     const ZoomWindowPlacement w = zoomWindowPlacement(15360, 11520);
     EXPECT_EQ(std::tuple(w.height, w.width, w.left, w.top), std::tuple(10800, 10800, 2280, 240));
 }

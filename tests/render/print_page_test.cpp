@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdio>
 #include <string>
 #include <vector>
 
@@ -35,8 +34,7 @@ TEST(PrintPage, NorthArrowIsSevenStepsAndAnN)
 
 TEST(PrintPage, ScaleCaptionTexts)
 {
-    struct Case { const char *scale, *autoScale; Units units; bool list; const char *caption; };
-    const Case cases[] = {
+    const struct { const char *scale, *autoScale; Units units; bool list; const char *caption; } cases[] = {
         {"1000:1", "AutoScale = 50", Units::Feet, true, "Scale = 1:1000 (Feet)"},
         {"200", "", Units::Meters, true, "Scale = 1:200 (Meters)"},
         {"Standard", "AutoScale = 50", Units::Feet, true, "Scale = 1: 50 (Feet)"},
@@ -45,9 +43,8 @@ TEST(PrintPage, ScaleCaptionTexts)
         {"Maximum", "AutoScale = 7", Units::Other, true, "Scale = 1: 7"},
         {"Small", "", Units::Meters, true, "Scale = 1: (Meters)"},
         {"0", "AutoScale = 3", Units::Feet, false, "Scale = 1: 3"},
-        {"1500.5", "", Units::Feet, false, "Scale = 1:1500.5"},
-    };
-    for (const Case &c : cases)
+        {"1500.5", "", Units::Feet, false, "Scale = 1:1500.5"}};
+    for (const auto &c : cases)
         EXPECT_EQ(scaleCaption(c.scale, c.autoScale, c.units, c.list), c.caption) << c.scale << " " << c.autoScale;
 }
 
@@ -63,10 +60,8 @@ TEST(PrintPage, HeadingWrapsWordByWordAtPageWidthLess2400)
         heading += std::string(10, char('a' + i)) + (i < 8 ? " " : "");
     const std::vector<PlacedWord> words = wrapHeading(s, kLetterPage, 1080.0f, heading);
     ASSERT_EQ(words.size(), 9u);
-    EXPECT_FLOAT_EQ(words[6].at.x, 360.0f + 7920.0f);
-    EXPECT_FLOAT_EQ(words[6].at.y, 1080.0f);
-    EXPECT_FLOAT_EQ(words[7].at.x, 360.0f);
-    EXPECT_FLOAT_EQ(words[7].at.y, 1080.0f + 292.5f);
+    EXPECT_EQ(words[6].at, (PointF{360.0f + 7920.0f, 1080.0f}));
+    EXPECT_EQ(words[7].at, (PointF{360.0f, 1080.0f + 292.5f}));
     EXPECT_FLOAT_EQ(words[8].at.x, 360.0f + 1320.0f);
     EXPECT_EQ(words[0].text, "aaaaaaaaaa ");
 
@@ -75,8 +70,7 @@ TEST(PrintPage, HeadingWrapsWordByWordAtPageWidthLess2400)
     ASSERT_EQ(odd.size(), 4u);
     EXPECT_EQ(odd[1].text, " ");
     EXPECT_FLOAT_EQ(odd[2].at.x, 360.0f + 240.0f + 120.0f);
-    EXPECT_FLOAT_EQ(odd[3].at.x, 360.0f);
-    EXPECT_FLOAT_EQ(odd[3].at.y, 292.5f);
+    EXPECT_EQ(odd[3].at, (PointF{360.0f, 292.5f}));
 }
 
 TEST(PrintPage, LayoutPutsTheMapBelowHeadingAndCaption)
@@ -102,8 +96,7 @@ TEST(PrintPage, LayoutPutsTheMapBelowHeadingAndCaption)
 
     // Without heading and list the arrow's tip is at the text origin and the
     // map reaches the bottom margin.
-    text.description = false;
-    text.referenceList = false;
+    text.description = text.referenceList = false;
     const MapPageLayout bare = planMapPage(s, kA4Page, text);
     EXPECT_TRUE(bare.heading.empty());
     EXPECT_FLOAT_EQ(bare.arrowFoot, 1080.0f + 540.0f);
@@ -146,21 +139,14 @@ TEST(PrintPage, PaintsFigureAtTheMapAreaAndTheListInTwoColumns)
               (std::vector<std::string>{"#000080 line 0 0 300 0", "#000080 text -180 0 0 1 ", "scaleOrigin 0 0"}));
     EXPECT_EQ(countOf(page, "#800000 text 300 0 0 x"), 0);
 
-    // Five entries: three in the first column, two in the second; the block's
-    // first line is left empty.
+    // Five entries: three in the first column, two in the second at 360 + (11520 - 720) / 2 = 5760; the
+    // block's first line, at the list's top 15120 - 360 - 7 x 190.125 = 13429.125, is left empty.
     const std::vector<std::string> texts = callsStarting(page, "#000000 text");
     ASSERT_GE(texts.size(), 6u);
-    const float top = layout.listTop + 190.125f;
-    const std::vector<std::string> list(texts.end() - 5, texts.end());
-    EXPECT_NE(list[2].find(" New"), std::string::npos);
-    const struct { int entry; double x, y; } places[] = {
-        {0, 360, top}, {2, 360, top + 2 * 190.125}, {3, 360 + (11520 - 720) / 2, top}};
-    for (const auto &p : places) {
-        double x = 0, y = 0;
-        ASSERT_EQ(std::sscanf(list[p.entry].c_str(), "#000000 text %lf %lf", &x, &y), 2) << list[p.entry];
-        EXPECT_NEAR(x, p.x, 0.01) << p.entry;
-        EXPECT_NEAR(y, p.y, 0.01) << p.entry;
-    }
+    EXPECT_EQ(std::vector<std::string>(texts.end() - 5, texts.end()),
+              (std::vector<std::string>{"#000000 text 360 13619.25 0 1  N 10", "#000000 text 360 13809.375 0 2  E 20",
+                                        "#000000 text 360 13999.5 0 New", "#000000 text 5760 13619.25 0 3  S 30",
+                                        "#000000 text 5760 13809.375 0 4  W 40"}));
     EXPECT_EQ(countOf(page, "newPage"), 0);
 }
 

@@ -2,16 +2,15 @@
 // copied map bitmap, fonts in points whatever the device's dpi (the fixed-pitch
 // data font), and the pages of a PDF.
 
-#include <QFile>
 #include <QImage>
 #include <QPainter>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include "canvas_image.h"
 #include "map_bitmap.h"
 #include "paged_output.h"
 #include "qt_painter_surface.h"
+#include "temp_folder.h"
 #include "text_pages.h"
 
 using namespace quilmar;
@@ -47,24 +46,22 @@ TEST(CanvasImage, PaintsScreenItemsOnTheBackgroundOfTheGivenSize)
 
 TEST(CanvasImage, WritesPngAndSvgFiles)
 {
-    QTemporaryDir dir;
-    ASSERT_TRUE(dir.isValid());
-    ASSERT_TRUE(writeFigurePng(dir.filePath("map.png"), kTwoLegs, CanvasView{0, 0, 3000, 1500}, kCanvasGrey).ok);
-    const QImage back(dir.filePath("map.png"));
+    const test::TempFolder dir;
+    const auto path = [&dir](const char *name) { return QString::fromStdString(dir.file(name)); };
+    ASSERT_TRUE(writeFigurePng(path("map.png"), kTwoLegs, CanvasView{0, 0, 3000, 1500}, kCanvasGrey).ok);
+    const QImage back(path("map.png"));
     ASSERT_EQ(back.size(), QSize(200, 100));
     EXPECT_EQ(back.pixelColor(50, 20), kBlue); // twip row 300 / 15
 
-    ASSERT_TRUE(writeFigureSvg(dir.filePath("map.svg"), kTwoLegs, CanvasView{0, 0, 3000, 1500}, kCanvasGrey).ok);
-    QFile file(dir.filePath("map.svg"));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QString svg = QString::fromUtf8(file.readAll());
+    ASSERT_TRUE(writeFigureSvg(path("map.svg"), kTwoLegs, CanvasView{0, 0, 3000, 1500}, kCanvasGrey).ok);
+    const QString svg = QString::fromStdString(test::fileBytes(dir.file("map.svg")));
     EXPECT_TRUE(svg.contains("<svg width=\"200\" height=\"100\"")) << "size not in pixels";
     EXPECT_TRUE(svg.contains("viewBox=\"0 0 200 100\""));
     EXPECT_TRUE(svg.contains("#c0c0c0")) << "background not filled";
     EXPECT_TRUE(svg.contains("#000080") && (svg.contains("<polyline") || svg.contains("<path")));
 
-    EXPECT_FALSE(writeFigurePng(dir.filePath("missing/map.png"), kTwoLegs, CanvasView{0, 0, 3000, 1500}, kCanvasGrey).ok);
-    EXPECT_FALSE(writeFigureSvg(dir.filePath("missing/map.svg"), kTwoLegs, CanvasView{0, 0, 3000, 1500}, kCanvasGrey).ok);
+    EXPECT_FALSE(writeFigurePng(path("missing/map.png"), kTwoLegs, CanvasView{0, 0, 3000, 1500}, kCanvasGrey).ok);
+    EXPECT_FALSE(writeFigureSvg(path("missing/map.svg"), kTwoLegs, CanvasView{0, 0, 3000, 1500}, kCanvasGrey).ok);
 }
 
 TEST(PrinterSurface, FontsKeepTheirSizeInTwipsOnEveryDevice)
@@ -86,8 +83,8 @@ TEST(PrinterSurface, FontsKeepTheirSizeInTwipsOnEveryDevice)
 
 TEST(PrinterSurface, PdfGetsOnePageForEachNewPage)
 {
-    QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("pages.pdf"));
+    const test::TempFolder dir;
+    const QString path = QString::fromStdString(dir.file("pages.pdf"));
     PageSize seen;
     ASSERT_TRUE(writePdf(path, QPageSize::A4, [&](Surface &surface, PageSize page) {
         seen = page;
@@ -98,9 +95,7 @@ TEST(PrinterSurface, PdfGetsOnePageForEachNewPage)
     // A4 less a quarter inch all round, in twips (Qt rounds A4 to whole points)
     EXPECT_NEAR(seen.width, kA4Page.width, 10.0);
     EXPECT_NEAR(seen.height, kA4Page.height, 10.0);
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray bytes = file.readAll();
+    const QByteArray bytes = QByteArray::fromStdString(test::fileBytes(dir.file("pages.pdf")));
     EXPECT_TRUE(bytes.startsWith("%PDF"));
     EXPECT_EQ(bytes.count("/Type /Page\n") + bytes.count("/Type /Page\r") + bytes.count("/Type /Page "), 2)
         << "two pages";

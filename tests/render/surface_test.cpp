@@ -33,8 +33,7 @@ TEST(DeviceMapping, MapsPointsAndLengthsToDeviceAndBack)
         // Origin right of the point: (100 - 400)/15 = -20, 45/15 = 3.
         {DeviceMapping::forPixels(400, 0), {100, 45}, {-20, 3}},
         // 600-dpi printer: 1440 twips (an inch) are 600 dots, 720 twips 300.
-        {DeviceMapping::forDotsPerInch(0, 0, 600), {1440, 720}, {600, 300}},
-    };
+        {DeviceMapping::forDotsPerInch(0, 0, 600), {1440, 720}, {600, 300}}};
     for (const auto &c : cases) {
         const PointF device = c.mapping.toDevice(c.drawing);
         EXPECT_NEAR(device.x, c.device.x, 1e-4);
@@ -66,8 +65,7 @@ protected:
     QtSurfaceTest() : image(200, 100, QImage::Format_ARGB32_Premultiplied) { image.fill(QColor(192, 192, 192)); }
 
     /// Paints with @p draw in blue on a surface whose origin is the image's top-left.
-    template <typename Draw>
-    void paint(Draw draw)
+    template <typename Draw> void paint(Draw draw)
     {
         QPainter painter(&image);
         QtPainterSurface surface(painter, DeviceMapping::forPixels(0, 0));
@@ -117,8 +115,7 @@ TEST_F(QtSurfaceTest, ArcsRunCounterClockwiseAsSeenOnTheMap)
     const struct { double start, end; std::vector<QPoint> inked, empty; } cases[] = {
         {0.0, kPi / 2, {{128, 22}, {140, 50}, {100, 10}}, {{128, 78}, {71, 22}, {71, 78}}},
         // An end below the start: the quarter round east, not three quarters.
-        {1.75 * kPi, 0.25 * kPi, {{140, 50}}, {{60, 50}, {100, 10}}},
-    };
+        {1.75 * kPi, 0.25 * kPi, {{140, 50}}, {{60, 50}, {100, 10}}}};
     for (const auto &c : cases) {
         image.fill(QColor(192, 192, 192));
         paint([&c](Surface &s) { s.arc({1500, 750}, 600, c.start, c.end); });
