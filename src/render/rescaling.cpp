@@ -102,8 +102,11 @@ double autoScaleNumber(const ScaleChoice &choice, float scaleFactor)
 
 std::string autoScaleCaption(double number)
 {
-    if (number > 1.0)
-        return "AutoScale = " + formatNumber(number, "##0");
+    // The whole number the caption would show is what must be above 1: 1.4
+    // reads 1 and leaves the caption empty.
+    const std::string whole = formatNumber(number, "##0");
+    if (leadingNumber(whole) > 1.0)
+        return "AutoScale = " + whole;
     return {};
 }
 

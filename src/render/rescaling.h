@@ -46,7 +46,7 @@ FitResult rescaling(const LegTable &legs, const ScaleChoice &choice, float width
 double autoScaleNumber(const ScaleChoice &choice, float scaleFactor);
 
 /// The AutoScale caption of a scale number: "AutoScale = " and the number
-/// formatted "##0" when it is above 1, else "".
+/// formatted "##0" when that whole number is above 1, else "".
 std::string autoScaleCaption(double number);
 
 /// autoScaleCaption(autoScaleNumber(choice, scaleFactor)).

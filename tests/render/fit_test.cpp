@@ -91,6 +91,8 @@ TEST(Rescaling, AutoScaleCaption)
     EXPECT_EQ(autoScaleCaption(feet, 14.4f), "AutoScale = 50");
     EXPECT_EQ(autoScaleCaption(metres, 14.4f), "AutoScale = 20"); // 576 / 28.8
     EXPECT_EQ(autoScaleCaption(feet, 720.0f), "");                 // 1440 / 1440 = 1 is not above 1
+    EXPECT_EQ(autoScaleCaption(feet, 514.2857f), "");               // 1.4 reads 1 as a whole number: not above 1
+    EXPECT_EQ(autoScaleCaption(feet, 480.0f), "AutoScale = 2");     // 1.5 reads 2
     EXPECT_THROW(autoScaleCaption(feet, 0.0f), VbError);
 }
 
