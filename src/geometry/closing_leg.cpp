@@ -56,7 +56,9 @@ const char *closeCurved(int label, const WalkOptions &options, TraverseState &st
     const double dx = double(state.pob.x) - state.pen.x;
     const double dy = double(state.pob.y) - state.pen.y;
     const float chord = sng(std::sqrt(dx * dx + dy * dy));
-    const ChordDirection direction = ChordDirection::of(chordDirection(dx, dy) * kPi / 180.0);
+    // The direction is held as a single, and so are its radians, which the
+    // curve routines take.
+    const ChordDirection direction = ChordDirection::of(sng(double(sng(chordDirection(dx, dy))) * kPi / 180.0));
     if (state.areaMode)
         addShoelaceStep(state.areaPoint, state.areaSum, sng(chord * direction.cosine), sng(chord * direction.sine));
     const bool right = state.closingSide == CurveSide::Right;

@@ -178,10 +178,16 @@ void convertCourses(CourseTable &table, LegTable &legs, const MessageFn &message
         if (!leg.direction) {
             leg.cosine = 1.0;
             leg.sine = 0.0;
+            leg.radians = 0.0f;
+            leg.radiansCosine = 1.0;
+            leg.radiansSine = 0.0;
         } else if (!same) {
             const double a = double(*leg.direction) * kPi / 180.0;
             leg.cosine = std::cos(a);
             leg.sine = std::sin(a);
+            leg.radians = sng(a);
+            leg.radiansCosine = std::cos(double(leg.radians));
+            leg.radiansSine = std::sin(double(leg.radians));
         }
     }
 }

@@ -69,6 +69,13 @@ struct Leg {
     /// The row's cells were read by a computation. A number beyond range stops
     /// the computation, leaving the rows after it as the last one left them.
     bool cellsRead = false;
+    /// The direction in radians as the walk holds it: a single (degrees x
+    /// 3.14159265 / 180, rounded), with its cosine and sine. The walk, the
+    /// curve routines and their area steps use these; the fit uses the
+    /// unrounded ones above. 0, 1 and 0 without a direction.
+    float radians = 0.0f;
+    double radiansCosine = 1.0;
+    double radiansSine = 0.0;
 
     float directionValue() const { return direction.value_or(0.0f); }
 };

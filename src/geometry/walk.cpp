@@ -41,14 +41,15 @@ public:
         if (r == 0.0f) {
             straight(leg, d);
         } else {
-            const double cx = leg.cosine * c, cy = leg.sine * c;
+            const double cx = leg.radiansCosine * c, cy = leg.radiansSine * c;
             if (m_state.areaMode)
                 addShoelaceStep(m_state.areaPoint, m_state.areaSum, sng(cx), sng(cy));
             if (m_options.printing)
                 addReferenceLabel(m_figure, m_options, m_state.canvas, leg.course, cx, cy);
             CurveSink sink{&m_figure, legTarget(), m_state.areaMode, m_state.perimeterMode, &m_state.areaSum,
                            &m_state.perimeterSum};
-            const ChordDirection direction{double(leg.directionValue()) * kPi / 180.0, leg.cosine, leg.sine};
+            // The curve routines take the direction in radians as a single.
+            const ChordDirection direction{double(leg.radians), leg.radiansCosine, leg.radiansSine};
             if (traceCurve(leg.side == CurveSide::Right, m_state.pen, direction, r, c, sink) == CurveOutcome::Fault)
                 return false;
             m_state.canvas = m_state.pen;
@@ -62,8 +63,8 @@ private:
 
     void straight(const Leg &leg, float d)
     {
-        float dx = sng(leg.cosine * d);
-        float dy = sng(leg.sine * d);
+        float dx = sng(leg.radiansCosine * d);
+        float dy = sng(leg.radiansSine * d);
         if (m_state.areaMode)
             addShoelaceStep(m_state.areaPoint, m_state.areaSum, dx, dy);
         if (m_state.perimeterMode)

@@ -37,13 +37,13 @@ TEST(CliReport, DemoSamples)
     const char *const expected[] = {
         "\nGap = 742.32.  N 7° 28' 42'' E (17.92%)\nPerimeter = 4,142.32\n23.81 acres [1,037,108.08 sq ft]\n"
             "1037108 Square Meters [103.71 Ha]\n",
-        "\nGap = 222.82.  N 7° 7' 20'' W (6.13%)\nPerimeter = 3,632.21\n19.38 acres [844,281.00 sq ft]\n"
+        "\nGap = 222.82.  N 7° 7' 20'' W (6.13%)\nPerimeter = 3,632.21\n19.38 acres [844,280.94 sq ft]\n"
             "844281 Square Meters [84.43 Ha]\n",
         "\nGap = 660.55.  N 15° 45' 35'' W (17.57%)\nPerimeter = 3,760.55\n20.18 acres [878,934.35 sq ft]\n"
             "878934 Square Meters [87.89 Ha]\n",
         "\nGap = 509.90.  N 78° 41' 24'' W (9.43%)\nPerimeter = 5,409.90\n14.92 acres [650,000.08 sq ft]\n"
             "650000 Square Meters [65.00 Ha]\n",
-        "\nGap = 1,632.74.  N 66° 33' 15'' E (46.22%)\nPerimeter = 3,532.74\n8.49 acres [369,809.11 sq ft]\n"
+        "\nGap = 1,632.74.  N 66° 33' 15'' E (46.22%)\nPerimeter = 3,532.74\n8.49 acres [369,809.15 sq ft]\n"
             "369809 Square Meters [36.98 Ha]\n",
         "\nGap = 106.07.  S 90° 0' E (58.58%)\nPerimeter = 181.07\n0.06 acres [2,651.65 sq ft]\n"
             "2652 Square Meters [0.27 Ha]\n",

@@ -31,9 +31,10 @@ TEST(Engine, ResultTextsOfHandWorkedTraverses)
         // 100 x 100 square from a bare "B" row; the float walk misses by a hair.
         {"square", {kBegin, straight("N", "100"), straight("E", "100"), straight("S", "100"), straight("W", "100")},
          "Gap = 0.0 (0.00%)", "Perimeter = 400.00", "0.23 acres [10,000.00 sq ft]", "10000 Square Meters [1.00 Ha]"},
-        // Counter-clockwise the hair-breadth errors cancel exactly.
+        // Counter-clockwise too: north and south both step a hair west (the
+        // cosine of -90 and 90 degrees held as single radians is -4.37e-8).
         {"square counter-clockwise", {kBegin, straight("N", "100"), straight("W", "100"), straight("S", "100"), straight("E", "100")},
-         "Gap = 0", "Perimeter = 400.00", "0.23 acres [10,000.00 sq ft]", "10000 Square Meters [1.00 Ha]"},
+         "Gap = 0.0 (0.00%)", "Perimeter = 400.00", "0.23 acres [10,000.00 sq ft]", "10000 Square Meters [1.00 Ha]"},
         // Ends 0.5 short of the start: within 1 unit the area is computed, the
         // open remainder closing through the beginning: still 10,000. (The
         // bearing of so short a gap is the float walk's noise: not checked.)

@@ -255,6 +255,28 @@ TEST(Walk, HalfCircleByChordIsDrawnAndAShorterRadiusStopsTheWalk)
     EXPECT_TRUE(itemsOf<FigLine>(w.figure).empty());
 }
 
+TEST(Walk, StepsWithTheDirectionInRadiansHeldAsASingle)
+{
+    // Regression: the walk stepped with the radians unrounded. Held as a single,
+    // -90 degrees is -1.5707963705 radians, whose cosine is -4.37e-8 (unrounded
+    // +1.79e-9); -180 degrees is -3.1415927410 radians, whose sine is +8.74e-8.
+    // A curved close north to the beginning 100000 away: its direction, -89.9999975,
+    // is -90 as a single, so it ends 0.0043711 further west.
+    const struct { const char *what; std::vector<Row> rows; PointF pen; } cases[] = {
+        {"north", {{"N", "", "", "", "", "100000", "", "", "", ""}}, {-0.0043711f, -100000.0f}},
+        {"south", {{"S", "", "", "", "", "100000", "", "", "", ""}}, {-0.0043711f, 100000.0f}},
+        {"west", {{"W", "", "", "", "", "100000", "", "", "", ""}}, {-100000.0f, 0.0087423f}},
+        {"curve north over a chord", {{"N", "", "", "", "", "", "100000", "60000", "R", ""}}, {-0.0043711f, -100000.0f}},
+        {"curved close", {{"S", "", "", "", "", "100000", "", "", "", ""}, {"", "", "", "", "", "", "", "60000", "L", "C"}},
+         {-0.0087423f, 0.0f}},
+    };
+    for (const auto &c : cases) {
+        const Walked w = walk(makeTable(c.rows));
+        EXPECT_NEAR(w.state.pen.x, c.pen.x, 2e-6) << c.what;
+        EXPECT_NEAR(w.state.pen.y, c.pen.y, 1e-2) << c.what;
+    }
+}
+
 TEST(Walk, AreaSignFollowsTheDirectionOfTravel)
 {
     auto square = [](const char *a, const char *b, const char *c, const char *d) {
