@@ -118,6 +118,16 @@ TEST_F(Commands, ToolbarButtonsZeroToSixWithTheirTooltips)
     EXPECT_EQ(tips.join("|"), "Re-draw Map (F8)|Clear Line (Row)|Clear All|Print Map|Calculate Area|"
                               "Calculate Perimeter|Calculate Gap");
 
+    // Button 0 checks the current row before it draws; the Re-draw Map entry (F8) only draws.
+    click(field(0, 2));
+    type("45");
+    click(field(0, 6));
+    trigger("mnuRedraw");
+    EXPECT_TRUE(dialogs.asked.empty());
+    EXPECT_TRUE(w->engine().mapComputed());
+    w->Toolbar_Click(0);
+    EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"Please specify the North-South direction."});
+
     // Button 4 gives acres with feet and hectares with metres.
     trigger("demosample4");
     w->Toolbar_Click(4);
