@@ -252,28 +252,31 @@ void Plotter::showResults()
     Filemenu_Click(); // the save shortcuts follow the File menu's enabling
 }
 
+// The result-line commands draw too: each fits the map to the canvas as it is now.
 void Plotter::mnuAcres_Click()
 {
-    m_engine.setCanvasSize(float(m_minmap->width() * MapCanvas::kTwipsPerPixel),
-                           float(m_minmap->height() * MapCanvas::kTwipsPerPixel));
+    fitToCanvas();
     m_engine.mnuAcres_Click();
     showResults();
 }
 
 void Plotter::mnuHectares_Click()
 {
+    fitToCanvas();
     m_engine.mnuHectares_Click();
     showResults();
 }
 
 void Plotter::mnuGap_Click()
 {
+    fitToCanvas();
     m_engine.mnuGap_Click();
     showResults();
 }
 
 void Plotter::mnuPeri_Click()
 {
+    fitToCanvas();
     m_engine.mnuPeri_Click();
     showResults();
 }

@@ -136,6 +136,15 @@ TEST_F(Commands, ToolbarButtonsZeroToSixWithTheirTooltips)
     trigger("demosample4");
     w->Toolbar_Click(4);
     EXPECT_NE(acres().find("Square Meters"), std::string::npos) << acres();
+    // Every command that draws fits the map to the canvas as it is now, after a resize too.
+    auto *canvas = child<MapCanvas>("minmap");
+    for (const char *entry : {"mnuGap", "mnuPeri", "mnuHectares", "mnuRedraw"}) {
+        w->resize(w->width() + 40, w->height() + 30);
+        QApplication::processEvents();
+        trigger(entry);
+        EXPECT_EQ(w->engine().canvasView().width, float(canvas->width() * MapCanvas::kTwipsPerPixel)) << entry;
+        EXPECT_EQ(w->engine().canvasView().height, float(canvas->height() * MapCanvas::kTwipsPerPixel)) << entry;
+    }
     // Button 3 prints the map.
     dialogs.printAnswers = {false};
     w->Toolbar_Click(3);
