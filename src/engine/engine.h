@@ -22,7 +22,8 @@
 //   the result line (`setAcresbox`), the property description
 //   (`setDescription`), the scale box (`setScaleText`), the unit option
 //   (`metrix_Click`), the print options (`setPrintOptions`), the canvas size
-//   (`setCanvasSize`) and the start-up's skip-once flag (`skipNextDraw`).
+//   (`setCanvasSize`), the start-up's skip-once flag (`skipNextDraw`) and
+//   what a zoom window's drawing leaves behind (`keepZoomDraw`).
 // - `openMapFile` returns an `OpenOutcome`: Ok, NotFound (its message was
 //   shown, as the window does) or Failed with the reader's reason.
 // - `mapComputed()` is the File menu's flag: set by every `mindraw` that ran.
@@ -158,6 +159,19 @@ public:
     void setCanvasSize(float widthTwips, float heightTwips);
     /// Makes the next mindraw do nothing (start-up selects the scale without drawing).
     void skipNextDraw() { m_skipOnce = true; }
+    /// The zoom window draws with the shared points and scale factor: its drawing
+    /// leaves the point of origin, the point of beginning, the pen (drawing units
+    /// of its own picture) and @p scaleFactor as it computed them, until the next
+    /// mindraw computes them again. Deliberate: Calculate Acres and Hectares test
+    /// the gap from them before they draw. The canvas, its position and the last
+    /// figure stay the main window's.
+    void keepZoomDraw(const TraverseState &zoom, float scaleFactor)
+    {
+        m_state.origin = zoom.origin;
+        m_state.pob = zoom.pob;
+        m_state.pen = zoom.pen;
+        m_scaleFactor = scaleFactor;
+    }
 
 private:
     void showError(const std::string &text) { m_prompter.exclaim(text); }

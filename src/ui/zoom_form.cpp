@@ -9,7 +9,6 @@
 #include <QScrollBar>
 #include <QStyle>
 
-#include "course_conversion.h"
 #include "map_canvas.h"
 #include "vb_math.h"
 #include "walk.h"
@@ -136,10 +135,17 @@ void ZoomForm::drawAt(double m)
 {
     auto show = [this](const std::string &text) { m_dialogs.exclaim(text); };
     m_figure.clear();
+    // The courses as the main window last computed them: the zoom converts
+    // nothing, so an edit not yet drawn there is not drawn here either. The
+    // points and the scale factor it computes are the shared ones.
+    const LegTable &legs = m_engine.legs();
+    TraverseState state = m_engine.state();
+    struct KeepShared {
+        ZoomForm &zoom;
+        TraverseState &state;
+        ~KeepShared() { zoom.m_engine.keepZoomDraw(state, zoom.m_scaleFactor); }
+    } keep{*this, state};
     try {
-        LegTable legs;
-        convertCourses(m_engine.editTable(), legs, show);
-        TraverseState state = m_engine.state();
         state.origin = {};
         const ZoomFit fit = zoomFit(legs, m_side, m_side, state);
         if (fit.failed) {

@@ -380,6 +380,32 @@ TEST_F(Commands, ZoomWindowDrawsRedrawsAndScrolls)
     trigger("mnuMagnify"); // the same window again
     EXPECT_EQ(w->zoomForm(), z);
     EXPECT_TRUE(dialogs.asked.empty());
+
+    // The zoom draws the courses of the main window's last computation: a table
+    // cleared since (Clear All does not draw) still shows the old map there.
+    dialogs.answers = {Answer::Ok};
+    w->Toolbar_Click(2);
+    dialogs.asked.clear();
+    z->Form_Activate();
+    EXPECT_NEAR(z->scaleFactor(), fitted, fitted * 1e-5);
+
+    // Its drawing leaves the point of beginning and the scale factor it computed
+    // until the main window draws again: Calculate Acres measures the main
+    // canvas's end against the zoom's point of beginning first.
+    load(test::makeTable({{"N", "0", "", "", "E", "100", "", "", "", "B"},
+                          {"N", "90", "", "", "E", "100", "", "", "", ""},
+                          {"S", "0", "", "", "E", "100", "", "", "", ""},
+                          {"S", "90", "", "", "W", "100", "", "", "", ""},
+                          {"N", "0", "", "", "E", "100", "", "", "", ""}}));
+    trigger("mnuRedraw");
+    z->Form_Activate();
+    EXPECT_EQ(w->engine().scaleFactor(), z->scaleFactor());
+    trigger("mnuAcres");
+    EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"Before you can calculate the acreage, please close the gap.  "
+                                                        "Click on Calc Gap button to see gap information."});
+    trigger("mnuRedraw");
+    trigger("mnuAcres");
+    EXPECT_EQ(acres(), "0.23 acres [10,000.00 sq ft]");
 }
 
 TEST_F(Commands, TheMapPrintoutAsAPdfReadBack)
