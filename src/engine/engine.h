@@ -143,6 +143,9 @@ public:
     const PrintOptions &printOptions() const { return m_printOptions; }
     /// The File menu's flag: true once any mindraw has computed a map.
     bool mapComputed() const { return m_mapComputed; }
+    /// How many times mindraw has computed a map; a command that refused
+    /// (Calculate Acres with a gap) leaves it as it was, and so does the window.
+    unsigned drawCount() const { return m_drawCount; }
     /// The area texts of the last draw: "A acres [S sq ft]" and
     /// "S Square Meters [H Ha]" (built when asked; "" before any draw).
     std::string imperialText() const;
@@ -200,6 +203,7 @@ private:
     bool m_perimeterModeLeftOn = false;
     bool m_skipOnce = false;
     bool m_mapComputed = false;
+    unsigned m_drawCount = 0;
     std::string m_acresbox;
     std::string m_description;
     // The numbers behind Autoscalebox and the two area texts; their texts are

@@ -253,18 +253,24 @@ void Plotter::showResults()
 }
 
 // The result-line commands draw too: each fits the map to the canvas as it is now.
+// A refusal (the gap not closed) shows its message and changes nothing on the
+// window: a canvas or result line emptied since the last draw stays empty.
 void Plotter::mnuAcres_Click()
 {
     fitToCanvas();
+    const unsigned draws = m_engine.drawCount();
     m_engine.mnuAcres_Click();
-    showResults();
+    if (m_engine.drawCount() != draws)
+        showResults();
 }
 
 void Plotter::mnuHectares_Click()
 {
     fitToCanvas();
+    const unsigned draws = m_engine.drawCount();
     m_engine.mnuHectares_Click();
-    showResults();
+    if (m_engine.drawCount() != draws)
+        showResults();
 }
 
 void Plotter::mnuGap_Click()
@@ -305,8 +311,10 @@ void Plotter::Toolbar_Click(int index)
         out = m_grid->rules().redraw();
         break;
     case 1:
-        if (m_grid->rules().clearRow(out))
+        if (m_grid->rules().clearRow(out)) {
+            m_engine.setAcresbox({});
             setAcres({});
+        }
         break;
     case 2:
         if (m_grid->rules().clearAll(out)) {

@@ -12,6 +12,7 @@
 #include <QRadioButton>
 #include <QScrollBar>
 
+#include "map_canvas.h"
 #include "window_fixture.h"
 
 using namespace quilmar;
@@ -159,6 +160,23 @@ TEST_F(Window, TagMenuAndRowButtons)
     EXPECT_EQ(field(2, 6)->text(), "");
     EXPECT_EQ(w->engine().table().highest, 50);
     EXPECT_EQ(QApplication::focusWidget(), field(0, 1));
+
+    // What the row buttons emptied stays empty when Calculate Acres then refuses an open traverse.
+    load(test::makeTable({{"N", "0", "", "", "E", "100", "", "", "", ""}}));
+    trigger("mnuGap");
+    EXPECT_NE(acres(), "");
+    auto *canvas = child<MapCanvas>("minmap");
+    for (int button : {1, 2}) {
+        dialogs.answers = {Answer::Ok};
+        w->Toolbar_Click(button);
+        dialogs.asked.clear();
+        trigger("mnuAcres");
+        EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"Before you can calculate the acreage, please close the gap.  "
+                                                            "Click on Calc Gap button to see gap information."});
+        EXPECT_EQ(acres(), "") << button;
+        EXPECT_EQ(canvas->isBlank(), button == 2);
+        EXPECT_EQ(child<QLabel>("Autoscalebox")->text().isEmpty(), button == 2);
+    }
 }
 
 TEST_F(Window, CustomScaleAndUnits)
