@@ -19,6 +19,7 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QStyle>
+#include <QTextDocument>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -353,21 +354,11 @@ void Plotter::Toolbar_Click(int index)
     m_grid->apply(out);
 }
 
-void Plotter::Editmenu_Click()
-{
-    QLineEdit *f = m_grid->activeField();
-    const QMimeData *mime = QApplication::clipboard()->mimeData();
-    m_paste->setEnabled(mime && mime->hasText());
-    m_cut->setEnabled(f && f->hasSelectedText());
-    m_copy->setEnabled(f && f->hasSelectedText());
-    m_undo->setEnabled(f && f->isUndoAvailable());
-}
+namespace {
 
-void Plotter::editAction(int which)
+// The Edit menu's commands on either kind of text field of the window.
+template <class Field> void runEdit(Field *f, int which)
 {
-    QLineEdit *f = m_grid->activeField();
-    if (!f)
-        return;
     switch (which) {
     case 0: f->undo(); break;
     case 1: f->cut(); break;
@@ -375,6 +366,38 @@ void Plotter::editAction(int which)
     case 3: f->paste(); break;
     default: break;
     }
+}
+
+} // namespace
+
+QLineEdit *Plotter::editLine() const
+{
+    // The grid's field that has the focus (or had it when the menu opened),
+    // else the scale box's text while it has the focus.
+    if (QLineEdit *f = m_grid->activeField())
+        return f;
+    return QApplication::focusWidget() == m_scalebox->lineEdit() ? m_scalebox->lineEdit() : nullptr;
+}
+
+void Plotter::Editmenu_Click()
+{
+    // The field that has the focus: a grid field, the scale box or the heading box.
+    QLineEdit *f = editLine();
+    QPlainTextEdit *heading = !f && QApplication::focusWidget() == m_headerbox ? m_headerbox : nullptr;
+    const bool selected = f ? f->hasSelectedText() : heading && heading->textCursor().hasSelection();
+    const QMimeData *mime = QApplication::clipboard()->mimeData();
+    m_paste->setEnabled(mime && mime->hasText());
+    m_cut->setEnabled(selected);
+    m_copy->setEnabled(selected);
+    m_undo->setEnabled(f ? f->isUndoAvailable() : heading && heading->document()->isUndoAvailable());
+}
+
+void Plotter::editAction(int which)
+{
+    if (QLineEdit *f = editLine())
+        runEdit(f, which);
+    else if (QApplication::focusWidget() == m_headerbox)
+        runEdit(m_headerbox, which);
 }
 
 // --- scale and units -------------------------------------------------------------

@@ -320,4 +320,17 @@ TEST_F(Window, EditMenuWorksOnTheFocusedField)
     QTest::keyClick(heading, Qt::Key_A, Qt::ControlModifier);
     EXPECT_FALSE(heading->textCursor().hasSelection());
     EXPECT_EQ(w->engine().description(), "Lot 7");
+
+    // The heading box is a field of the window too: the Edit menu works on it while it has the focus.
+    heading->selectAll();
+    emit child<QMenu>("Editmenu")->aboutToShow();
+    EXPECT_TRUE(child<QAction>("Editcopy")->isEnabled());
+    EXPECT_TRUE(child<QAction>("EditUndo")->isEnabled());
+    child<QAction>("Editcopy")->trigger();
+    EXPECT_EQ(clipboard(), "Lot 7");
+    child<QAction>("Editcut")->trigger();
+    EXPECT_EQ(heading->toPlainText(), "");
+    child<QAction>("Editpaste")->trigger();
+    child<QAction>("Editpaste")->trigger();
+    EXPECT_EQ(w->engine().description(), "Lot 7Lot 7");
 }
