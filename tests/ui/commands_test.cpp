@@ -381,6 +381,21 @@ TEST_F(Commands, ZoomWindowDrawsRedrawsAndScrolls)
     EXPECT_EQ(w->zoomForm(), z);
     EXPECT_TRUE(dialogs.asked.empty());
 
+    // The bars' maximum, 0.7 of twice the screen's height, is a 16-bit integer:
+    // a taller screen faults when the window is made, and the window stays.
+    const struct { float screenTwips; bool overflow; } screens[] = {{11520, false}, {23405, false}, {23406, true}};
+    for (const auto &s : screens) {
+        dialogs.asked.clear();
+        ZoomForm tall(w->engine(), dialogs, w.get(), s.screenTwips);
+        EXPECT_EQ(dialogs.texts(), s.overflow ? std::vector<std::string>{"Overflow"} : std::vector<std::string>{})
+            << s.screenTwips;
+        if (s.overflow && !dialogs.asked.empty()) {
+            EXPECT_EQ(dialogs.asked[0].icon, Icon::Exclamation);
+        }
+        EXPECT_EQ(tall.pictureSide(), 2 * s.screenTwips);
+    }
+    dialogs.asked.clear();
+
     // The zoom draws the courses of the main window's last computation: a table
     // cleared since (Clear All does not draw) still shows the old map there.
     dialogs.answers = {Answer::Ok};
