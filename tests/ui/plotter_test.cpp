@@ -39,6 +39,16 @@ TEST_F(Window, StartsWithTheScaleListUnitsAndNames)
     w->grid().scrollBar()->setValue(11);
     EXPECT_EQ(field(0, 6)->accessibleName(), "Row 12 Distance");
 
+    // Only the United States measure is the English mode; the British and every other is metric.
+    const QLocale saved;
+    const struct { const char *locale; bool english; } measures[] = {
+        {"en_US", true}, {"en_GB", false}, {"de_DE", false}, {"C", false}};
+    for (const auto &m : measures) {
+        QLocale::setDefault(QLocale(m.locale));
+        EXPECT_EQ(startupOptionsFor((dir / "quilmar").string()).englishMeasure, m.english) << m.locale;
+    }
+    QLocale::setDefault(saved);
+
     start(false, "[setting]\nscales=250\n");
     EXPECT_TRUE(child<QRadioButton>("metrix_1")->isChecked());
     EXPECT_EQ(child<QComboBox>("Scalebox")->itemText(4), " 250");
