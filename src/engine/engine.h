@@ -22,7 +22,8 @@
 //   the result line (`setAcresbox`), the property description
 //   (`setDescription`), the scale box (`setScaleText`), the unit option
 //   (`metrix_Click`), the print options (`setPrintOptions`), the canvas size
-//   (`setCanvasSize`) and the start-up's skip-once flag (`skipNextDraw`).
+//   (`setCanvasSize`), the start-up's skip-once flag (`skipNextDraw`) and
+//   what a zoom window's drawing leaves behind (`keepZoomDraw`).
 // - `openMapFile` returns an `OpenOutcome`: Ok, NotFound (its message was
 //   shown, as the window does) or Failed with the reader's reason.
 // - `mapComputed()` is the File menu's flag: set by every `mindraw` that ran.
@@ -142,6 +143,9 @@ public:
     const PrintOptions &printOptions() const { return m_printOptions; }
     /// The File menu's flag: true once any mindraw has computed a map.
     bool mapComputed() const { return m_mapComputed; }
+    /// How many times mindraw has computed a map; a command that refused
+    /// (Calculate Acres with a gap) leaves it as it was, and so does the window.
+    unsigned drawCount() const { return m_drawCount; }
     /// The area texts of the last draw: "A acres [S sq ft]" and
     /// "S Square Meters [H Ha]" (built when asked; "" before any draw).
     std::string imperialText() const;
@@ -158,6 +162,19 @@ public:
     void setCanvasSize(float widthTwips, float heightTwips);
     /// Makes the next mindraw do nothing (start-up selects the scale without drawing).
     void skipNextDraw() { m_skipOnce = true; }
+    /// The zoom window draws with the shared points and scale factor: its drawing
+    /// leaves the point of origin, the point of beginning, the pen (drawing units
+    /// of its own picture) and @p scaleFactor as it computed them, until the next
+    /// mindraw computes them again. Deliberate: Calculate Acres and Hectares test
+    /// the gap from them before they draw. The canvas, its position and the last
+    /// figure stay the main window's.
+    void keepZoomDraw(const TraverseState &zoom, float scaleFactor)
+    {
+        m_state.origin = zoom.origin;
+        m_state.pob = zoom.pob;
+        m_state.pen = zoom.pen;
+        m_scaleFactor = scaleFactor;
+    }
 
 private:
     void showError(const std::string &text) { m_prompter.exclaim(text); }
@@ -186,6 +203,7 @@ private:
     bool m_perimeterModeLeftOn = false;
     bool m_skipOnce = false;
     bool m_mapComputed = false;
+    unsigned m_drawCount = 0;
     std::string m_acresbox;
     std::string m_description;
     // The numbers behind Autoscalebox and the two area texts; their texts are

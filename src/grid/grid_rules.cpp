@@ -275,7 +275,9 @@ bool GridRules::test_all(int row, GridOutcome &out)
             return false;
         }
         if (chord > 0.0 && ns.empty()) {
-            fail("If you use chords you must specify the angle.", FieldRef{row, ColNS}, out);
+            // A code of blanks counts as none, yet the focus goes on to the degrees.
+            fail("If you use chords you must specify the angle.",
+                 FieldRef{row, text({row, ColNS}).empty() ? ColNS : ColDeg}, out);
             return false;
         }
     }

@@ -219,6 +219,9 @@ bool EntryGrid::fieldKey(FieldRef f, QKeyEvent *event)
         return false;
     } else if (key == Qt::Key_Backspace && mods == Qt::NoModifier) {
         code = 8;
+    } else if (key == Qt::Key_Delete) {
+        // No typed character, though X11 gives it the text DEL: the field deletes as usual.
+        return false;
     } else if (!(mods & (Qt::AltModifier | Qt::MetaModifier)) && !event->text().isEmpty() &&
                event->text()[0].unicode() != 0) {
         // Every character reaches the filter, control characters (Ctrl+letter,

@@ -19,6 +19,7 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QStyle>
+#include <QTextDocument>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -252,28 +253,37 @@ void Plotter::showResults()
     Filemenu_Click(); // the save shortcuts follow the File menu's enabling
 }
 
+// The result-line commands draw too: each fits the map to the canvas as it is now.
+// A refusal (the gap not closed) shows its message and changes nothing on the
+// window: a canvas or result line emptied since the last draw stays empty.
 void Plotter::mnuAcres_Click()
 {
-    m_engine.setCanvasSize(float(m_minmap->width() * MapCanvas::kTwipsPerPixel),
-                           float(m_minmap->height() * MapCanvas::kTwipsPerPixel));
+    fitToCanvas();
+    const unsigned draws = m_engine.drawCount();
     m_engine.mnuAcres_Click();
-    showResults();
+    if (m_engine.drawCount() != draws)
+        showResults();
 }
 
 void Plotter::mnuHectares_Click()
 {
+    fitToCanvas();
+    const unsigned draws = m_engine.drawCount();
     m_engine.mnuHectares_Click();
-    showResults();
+    if (m_engine.drawCount() != draws)
+        showResults();
 }
 
 void Plotter::mnuGap_Click()
 {
+    fitToCanvas();
     m_engine.mnuGap_Click();
     showResults();
 }
 
 void Plotter::mnuPeri_Click()
 {
+    fitToCanvas();
     m_engine.mnuPeri_Click();
     showResults();
 }
@@ -302,8 +312,10 @@ void Plotter::Toolbar_Click(int index)
         out = m_grid->rules().redraw();
         break;
     case 1:
-        if (m_grid->rules().clearRow(out))
+        if (m_grid->rules().clearRow(out)) {
+            m_engine.setAcresbox({});
             setAcres({});
+        }
         break;
     case 2:
         if (m_grid->rules().clearAll(out)) {
@@ -342,21 +354,11 @@ void Plotter::Toolbar_Click(int index)
     m_grid->apply(out);
 }
 
-void Plotter::Editmenu_Click()
-{
-    QLineEdit *f = m_grid->activeField();
-    const QMimeData *mime = QApplication::clipboard()->mimeData();
-    m_paste->setEnabled(mime && mime->hasText());
-    m_cut->setEnabled(f && f->hasSelectedText());
-    m_copy->setEnabled(f && f->hasSelectedText());
-    m_undo->setEnabled(f && f->isUndoAvailable());
-}
+namespace {
 
-void Plotter::editAction(int which)
+// The Edit menu's commands on either kind of text field of the window.
+template <class Field> void runEdit(Field *f, int which)
 {
-    QLineEdit *f = m_grid->activeField();
-    if (!f)
-        return;
     switch (which) {
     case 0: f->undo(); break;
     case 1: f->cut(); break;
@@ -364,6 +366,38 @@ void Plotter::editAction(int which)
     case 3: f->paste(); break;
     default: break;
     }
+}
+
+} // namespace
+
+QLineEdit *Plotter::editLine() const
+{
+    // The grid's field that has the focus (or had it when the menu opened),
+    // else the scale box's text while it has the focus.
+    if (QLineEdit *f = m_grid->activeField())
+        return f;
+    return QApplication::focusWidget() == m_scalebox->lineEdit() ? m_scalebox->lineEdit() : nullptr;
+}
+
+void Plotter::Editmenu_Click()
+{
+    // The field that has the focus: a grid field, the scale box or the heading box.
+    QLineEdit *f = editLine();
+    QPlainTextEdit *heading = !f && QApplication::focusWidget() == m_headerbox ? m_headerbox : nullptr;
+    const bool selected = f ? f->hasSelectedText() : heading && heading->textCursor().hasSelection();
+    const QMimeData *mime = QApplication::clipboard()->mimeData();
+    m_paste->setEnabled(mime && mime->hasText());
+    m_cut->setEnabled(selected);
+    m_copy->setEnabled(selected);
+    m_undo->setEnabled(f ? f->isUndoAvailable() : heading && heading->document()->isUndoAvailable());
+}
+
+void Plotter::editAction(int which)
+{
+    if (QLineEdit *f = editLine())
+        runEdit(f, which);
+    else if (QApplication::focusWidget() == m_headerbox)
+        runEdit(m_headerbox, which);
 }
 
 // --- scale and units -------------------------------------------------------------

@@ -23,6 +23,7 @@
 
 class QAction;
 class QKeySequence;
+class QLineEdit;
 
 class QButtonGroup;
 class QComboBox;
@@ -145,6 +146,8 @@ private:
     void Editmenu_Click();
     void Filemenu_Click();
     void editAction(int which);
+    /// The one-line field the Edit menu works on, if the focus is in one.
+    QLineEdit *editLine() const;
 
     Dialogs &m_dialogs;
     StartupOptions m_options;

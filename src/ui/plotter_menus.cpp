@@ -154,7 +154,8 @@ void Plotter::buildMenus()
     // --- Map -------------------------------------------------------------------------
     QMenu *map = menuBar()->addMenu("&Map");
     map->setObjectName("mnuView");
-    action(map, "mnuRedraw", "&Re-draw Map", QKeySequence("F8"), [this] { Toolbar_Click(0); });
+    // Only draws: the row check belongs to the toolbar's button 0, not to this entry.
+    action(map, "mnuRedraw", "&Re-draw Map", QKeySequence("F8"), [this] { draw(); });
     m_acresAction = action(map, "mnuAcres", "Calculate &Acres", QKeySequence("Ctrl+A"), [this] { mnuAcres_Click(); });
     m_hectaresAction =
         action(map, "mnuHectares", "Calculate &Hectares", QKeySequence("Ctrl+H"), [this] { mnuHectares_Click(); });

@@ -46,8 +46,9 @@ StartupOptions startupOptionsFor(const std::string &programPath)
 {
     const QFileInfo info(QString::fromStdString(programPath));
     const QLocale::MeasurementSystem m = QLocale().measurementSystem();
-    // Imperial measures (US or UK) are the English mode; every other system is metric.
-    const bool english = m == QLocale::ImperialUSSystem || m == QLocale::ImperialUKSystem;
+    // The regional measure is "1" (English units) for the United States system
+    // only; the British one counts as metric, as every other.
+    const bool english = m == QLocale::ImperialUSSystem;
     return startupOptionsIn(info.absolutePath().toStdString(), info.completeBaseName().toStdString(), english);
 }
 

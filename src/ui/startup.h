@@ -15,7 +15,7 @@ struct StartupOptions {
     /// Folder of "backup.map": the program folder, or the user's data folder
     /// when the program folder is not writable. Ends with "/".
     std::string backupFolder;
-    bool englishMeasure = false; ///< the locale measures in imperial units
+    bool englishMeasure = false; ///< the locale measures in United States units
     SettingsValues settings;
 };
 

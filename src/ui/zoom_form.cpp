@@ -9,7 +9,6 @@
 #include <QScrollBar>
 #include <QStyle>
 
-#include "course_conversion.h"
 #include "map_canvas.h"
 #include "vb_math.h"
 #include "walk.h"
@@ -78,6 +77,11 @@ ZoomForm::ZoomForm(Engine &engine, Dialogs &dialogs, QWidget *parent, float scre
         bar->setRange(0, picture.scrollMax);
         bar->setSingleStep(picture.smallChange);
     }
+    // The bars' maximum is a 16-bit integer: on a screen taller than 23405
+    // twips making the window faults with "Overflow", and the window stays.
+    // Its bars then keep the largest maximum they can hold.
+    if (roundEven(0.7 * double(m_side)) > 32767.0)
+        m_dialogs.exclaim(VbError::overflow().description());
     onScroll(m_hscroll, [this](int v, bool ended) { HScroll1_Change(v, ended); });
     onScroll(m_vscroll, [this](int v, bool ended) { VScroll1_Change(v, ended); });
 }
@@ -136,10 +140,17 @@ void ZoomForm::drawAt(double m)
 {
     auto show = [this](const std::string &text) { m_dialogs.exclaim(text); };
     m_figure.clear();
+    // The courses as the main window last computed them: the zoom converts
+    // nothing, so an edit not yet drawn there is not drawn here either. The
+    // points and the scale factor it computes are the shared ones.
+    const LegTable &legs = m_engine.legs();
+    TraverseState state = m_engine.state();
+    struct KeepShared {
+        ZoomForm &zoom;
+        TraverseState &state;
+        ~KeepShared() { zoom.m_engine.keepZoomDraw(state, zoom.m_scaleFactor); }
+    } keep{*this, state};
     try {
-        LegTable legs;
-        convertCourses(m_engine.editTable(), legs, show);
-        TraverseState state = m_engine.state();
         state.origin = {};
         const ZoomFit fit = zoomFit(legs, m_side, m_side, state);
         if (fit.failed) {

@@ -120,6 +120,8 @@ TEST_F(Grid, RowCheckMessagesIconsAndFocus)
         {{"N", "1", "", "", "E", "", "", "50", "R", ""}, false, "For curves either the distance or the chord must be specified.", Icon::Exclamation, FieldRef{4, ColDistance}},
         {{"", "", "", "", "", "", "", "50", "R", "C"}, true, "", Icon::None, std::nullopt},
         {{"", "", "", "", "", "", "20", "50", "R", ""}, false, "If you use chords you must specify the angle.", Icon::Exclamation, FieldRef{4, ColNS}},
+        // a blank N/S code counts as none, but the focus goes to the degrees
+        {{" ", "", "", "", "", "", "20", "50", "R", ""}, false, "If you use chords you must specify the angle.", Icon::Exclamation, FieldRef{4, ColDeg}},
         {{"N", "1", "", "", "E", "314.2", "", "100", "R", ""}, false, "Distance is too long for given radius.", Icon::Exclamation, FieldRef{4, ColRadius}},
         {{"N", "1", "", "", "E", "314.1", "", "100", "R", ""}, true, "", Icon::None, std::nullopt},
         {{"N", "1", "", "", "E", "", "201", "100", "R", ""}, false, " Chord is too long for given radius", Icon::Exclamation, FieldRef{4, ColChord}},

@@ -118,6 +118,16 @@ TEST_F(Commands, ToolbarButtonsZeroToSixWithTheirTooltips)
     EXPECT_EQ(tips.join("|"), "Re-draw Map (F8)|Clear Line (Row)|Clear All|Print Map|Calculate Area|"
                               "Calculate Perimeter|Calculate Gap");
 
+    // Button 0 checks the current row before it draws; the Re-draw Map entry (F8) only draws.
+    click(field(0, 2));
+    type("45");
+    click(field(0, 6));
+    trigger("mnuRedraw");
+    EXPECT_TRUE(dialogs.asked.empty());
+    EXPECT_TRUE(w->engine().mapComputed());
+    w->Toolbar_Click(0);
+    EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"Please specify the North-South direction."});
+
     // Button 4 gives acres with feet and hectares with metres.
     trigger("demosample4");
     w->Toolbar_Click(4);
@@ -126,6 +136,15 @@ TEST_F(Commands, ToolbarButtonsZeroToSixWithTheirTooltips)
     trigger("demosample4");
     w->Toolbar_Click(4);
     EXPECT_NE(acres().find("Square Meters"), std::string::npos) << acres();
+    // Every command that draws fits the map to the canvas as it is now, after a resize too.
+    auto *canvas = child<MapCanvas>("minmap");
+    for (const char *entry : {"mnuGap", "mnuPeri", "mnuHectares", "mnuRedraw"}) {
+        w->resize(w->width() + 40, w->height() + 30);
+        QApplication::processEvents();
+        trigger(entry);
+        EXPECT_EQ(w->engine().canvasView().width, float(canvas->width() * MapCanvas::kTwipsPerPixel)) << entry;
+        EXPECT_EQ(w->engine().canvasView().height, float(canvas->height() * MapCanvas::kTwipsPerPixel)) << entry;
+    }
     // Button 3 prints the map.
     dialogs.printAnswers = {false};
     w->Toolbar_Click(3);
@@ -361,6 +380,47 @@ TEST_F(Commands, ZoomWindowDrawsRedrawsAndScrolls)
     trigger("mnuMagnify"); // the same window again
     EXPECT_EQ(w->zoomForm(), z);
     EXPECT_TRUE(dialogs.asked.empty());
+
+    // The bars' maximum, 0.7 of twice the screen's height, is a 16-bit integer:
+    // a taller screen faults when the window is made, and the window stays.
+    const struct { float screenTwips; bool overflow; } screens[] = {{11520, false}, {23405, false}, {23406, true}};
+    for (const auto &s : screens) {
+        dialogs.asked.clear();
+        ZoomForm tall(w->engine(), dialogs, w.get(), s.screenTwips);
+        EXPECT_EQ(dialogs.texts(), s.overflow ? std::vector<std::string>{"Overflow"} : std::vector<std::string>{})
+            << s.screenTwips;
+        if (s.overflow && !dialogs.asked.empty()) {
+            EXPECT_EQ(dialogs.asked[0].icon, Icon::Exclamation);
+        }
+        EXPECT_EQ(tall.pictureSide(), 2 * s.screenTwips);
+    }
+    dialogs.asked.clear();
+
+    // The zoom draws the courses of the main window's last computation: a table
+    // cleared since (Clear All does not draw) still shows the old map there.
+    dialogs.answers = {Answer::Ok};
+    w->Toolbar_Click(2);
+    dialogs.asked.clear();
+    z->Form_Activate();
+    EXPECT_NEAR(z->scaleFactor(), fitted, fitted * 1e-5);
+
+    // Its drawing leaves the point of beginning and the scale factor it computed
+    // until the main window draws again: Calculate Acres measures the main
+    // canvas's end against the zoom's point of beginning first.
+    load(test::makeTable({{"N", "0", "", "", "E", "100", "", "", "", "B"},
+                          {"N", "90", "", "", "E", "100", "", "", "", ""},
+                          {"S", "0", "", "", "E", "100", "", "", "", ""},
+                          {"S", "90", "", "", "W", "100", "", "", "", ""},
+                          {"N", "0", "", "", "E", "100", "", "", "", ""}}));
+    trigger("mnuRedraw");
+    z->Form_Activate();
+    EXPECT_EQ(w->engine().scaleFactor(), z->scaleFactor());
+    trigger("mnuAcres");
+    EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"Before you can calculate the acreage, please close the gap.  "
+                                                        "Click on Calc Gap button to see gap information."});
+    trigger("mnuRedraw");
+    trigger("mnuAcres");
+    EXPECT_EQ(acres(), "0.23 acres [10,000.00 sq ft]");
 }
 
 TEST_F(Commands, TheMapPrintoutAsAPdfReadBack)

@@ -12,6 +12,7 @@
 #include <QRadioButton>
 #include <QScrollBar>
 
+#include "map_canvas.h"
 #include "window_fixture.h"
 
 using namespace quilmar;
@@ -37,6 +38,16 @@ TEST_F(Window, StartsWithTheScaleListUnitsAndNames)
     EXPECT_EQ(child<QLabel>("Commentbox")->accessibleDescription(), "Row 6");
     w->grid().scrollBar()->setValue(11);
     EXPECT_EQ(field(0, 6)->accessibleName(), "Row 12 Distance");
+
+    // Only the United States measure is the English mode; the British and every other is metric.
+    const QLocale saved;
+    const struct { const char *locale; bool english; } measures[] = {
+        {"en_US", true}, {"en_GB", false}, {"de_DE", false}, {"C", false}};
+    for (const auto &m : measures) {
+        QLocale::setDefault(QLocale(m.locale));
+        EXPECT_EQ(startupOptionsFor((dir / "quilmar").string()).englishMeasure, m.english) << m.locale;
+    }
+    QLocale::setDefault(saved);
 
     start(false, "[setting]\nscales=250\n");
     EXPECT_TRUE(child<QRadioButton>("metrix_1")->isChecked());
@@ -100,6 +111,19 @@ TEST_F(Window, MessagesAndFocusFromTheRules)
     click(field(3, 1));
     QTest::keyClick(field(3, 1), Qt::Key_Escape); // any key toggles the N/S code
     EXPECT_EQ(field(3, 1)->text(), "N");
+
+    // Delete is no typed character: it deletes in every column, refused nowhere, toggling nothing.
+    const size_t messages = dialogs.asked.size();
+    const struct { int column; const char *after; } deletes[] = {{ColMin, "6"}, {ColNS, ""}}; // "60", "N" before
+    for (const auto &d : deletes) {
+        click(field(3, d.column));
+        QTest::keyClick(field(3, d.column), Qt::Key_End);
+        QTest::keyClick(field(3, d.column), Qt::Key_Left);
+        // with the text the X11 platform gives the key (Qt's test keys give none)
+        QTest::sendKeyEvent(QTest::Click, field(3, d.column), Qt::Key_Delete, QString(QChar(0x7f)), Qt::NoModifier);
+        EXPECT_EQ(field(3, d.column)->text().toStdString(), d.after) << d.column;
+    }
+    EXPECT_EQ(dialogs.asked.size(), messages);
 }
 
 TEST_F(Window, ScrollingWithAPendingEditKeepsItInItsRow)
@@ -146,6 +170,23 @@ TEST_F(Window, TagMenuAndRowButtons)
     EXPECT_EQ(field(2, 6)->text(), "");
     EXPECT_EQ(w->engine().table().highest, 50);
     EXPECT_EQ(QApplication::focusWidget(), field(0, 1));
+
+    // What the row buttons emptied stays empty when Calculate Acres then refuses an open traverse.
+    load(test::makeTable({{"N", "0", "", "", "E", "100", "", "", "", ""}}));
+    trigger("mnuGap");
+    EXPECT_NE(acres(), "");
+    auto *canvas = child<MapCanvas>("minmap");
+    for (int button : {1, 2}) {
+        dialogs.answers = {Answer::Ok};
+        w->Toolbar_Click(button);
+        dialogs.asked.clear();
+        trigger("mnuAcres");
+        EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"Before you can calculate the acreage, please close the gap.  "
+                                                            "Click on Calc Gap button to see gap information."});
+        EXPECT_EQ(acres(), "") << button;
+        EXPECT_EQ(canvas->isBlank(), button == 2);
+        EXPECT_EQ(child<QLabel>("Autoscalebox")->text().isEmpty(), button == 2);
+    }
 }
 
 TEST_F(Window, CustomScaleAndUnits)
@@ -289,4 +330,17 @@ TEST_F(Window, EditMenuWorksOnTheFocusedField)
     QTest::keyClick(heading, Qt::Key_A, Qt::ControlModifier);
     EXPECT_FALSE(heading->textCursor().hasSelection());
     EXPECT_EQ(w->engine().description(), "Lot 7");
+
+    // The heading box is a field of the window too: the Edit menu works on it while it has the focus.
+    heading->selectAll();
+    emit child<QMenu>("Editmenu")->aboutToShow();
+    EXPECT_TRUE(child<QAction>("Editcopy")->isEnabled());
+    EXPECT_TRUE(child<QAction>("EditUndo")->isEnabled());
+    child<QAction>("Editcopy")->trigger();
+    EXPECT_EQ(clipboard(), "Lot 7");
+    child<QAction>("Editcut")->trigger();
+    EXPECT_EQ(heading->toPlainText(), "");
+    child<QAction>("Editpaste")->trigger();
+    child<QAction>("Editpaste")->trigger();
+    EXPECT_EQ(w->engine().description(), "Lot 7Lot 7");
 }
