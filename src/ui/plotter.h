@@ -162,6 +162,7 @@ private:
     QMenu *m_fileMenu = nullptr;
     QMenu *m_editMenu = nullptr;
     QAction *m_saveAs = nullptr, *m_backup = nullptr;
+    QAction *m_printMap = nullptr, *m_printData = nullptr, *m_copyData = nullptr;
     QAction *m_undo = nullptr, *m_cut = nullptr, *m_copy = nullptr, *m_paste = nullptr;
     QAction *m_acresAction = nullptr, *m_hectaresAction = nullptr;
     bool m_exiting = false;
