@@ -129,6 +129,8 @@ private:
     /// The map canvas size in twips, for the engine's fit.
     void fitToCanvas(float scale = 1.0f);
     void refreshVisibleRows();
+    /// The distance, chord and radius fields of the visible rows from the table (global conversion).
+    void refreshLengthFields();
     QWidget *buildCentral();
     void fillScalebox();
     void selectUnits(int index);

@@ -57,6 +57,17 @@ void Plotter::refreshVisibleRows()
     m_grid->sync();
 }
 
+void Plotter::refreshLengthFields()
+{
+    // Only the columns the conversion rewrote: a field of another column being
+    // typed keeps its text until it is left.
+    GridRules &rules = m_grid->rules();
+    for (int r = 0; r < GridRules::kVisibleRows; ++r)
+        for (int c : {ColDistance, ColChord, ColRadius})
+            rules.setText({r, c}, cellText(m_engine.table().at(rules.scroll() + r, c)));
+    m_grid->sync();
+}
+
 // --- File: print options, printouts, clipboard -------------------------------------
 
 void Plotter::mnuPrintOptions_Click()
@@ -206,14 +217,16 @@ void Plotter::mnuGlobal1_Click()
 {
     // The map is not redrawn: the next computation reads the new lengths.
     if (const auto units =
-            runGlobal(GlobalConversion::feetToMeters(), m_dialogs, m_engine.editTable(), [this] { refreshVisibleRows(); }))
+            runGlobal(GlobalConversion::feetToMeters(), m_dialogs, m_engine.editTable(),
+                      [this] { refreshLengthFields(); }))
         selectUnits(int(*units));
 }
 
 void Plotter::mnuGlobal2_Click(int index)
 {
     if (const auto units =
-            runGlobal(GlobalConversion::toFeet(index), m_dialogs, m_engine.editTable(), [this] { refreshVisibleRows(); }))
+            runGlobal(GlobalConversion::toFeet(index), m_dialogs, m_engine.editTable(),
+                      [this] { refreshLengthFields(); }))
         selectUnits(int(*units));
 }
 
