@@ -131,6 +131,8 @@ private:
     void refreshVisibleRows();
     /// The distance, chord and radius fields of the visible rows from the table (global conversion).
     void refreshLengthFields();
+    /// Copies the visible fields into their table rows where they differ (Print Data reads them first).
+    void readVisibleRows();
     QWidget *buildCentral();
     void fillScalebox();
     void selectUnits(int index);

@@ -68,6 +68,20 @@ void Plotter::refreshLengthFields()
     m_grid->sync();
 }
 
+void Plotter::readVisibleRows()
+{
+    // A field still being typed is printed as shown. Cells the fields already
+    // show are left alone, so a number stored by a conversion stays a number.
+    const GridRules &rules = m_grid->rules();
+    CourseTable &table = m_engine.editTable();
+    for (int r = 0; r < GridRules::kVisibleRows; ++r)
+        for (int c = ColNS; c <= ColTag; ++c) {
+            Cell &cell = table.at(rules.scroll() + r, c);
+            if (const std::string &text = rules.text({r, c}); text != cellText(cell))
+                cell = Cell(text);
+        }
+}
+
 // --- File: print options, printouts, clipboard -------------------------------------
 
 void Plotter::mnuPrintOptions_Click()
@@ -98,6 +112,7 @@ void Plotter::FilePrintmap_Click()
 
 void Plotter::FilePrint_Click()
 {
+    readVisibleRows();
     try {
         m_dialogs.print("Quilmar data", [this](PrintSheet &sheet) { printDataSheets(m_engine, sheet); });
     } catch (const std::exception &) {
@@ -115,6 +130,7 @@ void Plotter::previewMap()
 
 void Plotter::previewData()
 {
+    readVisibleRows();
     m_dialogs.preview("Quilmar data", [this](PrintSheet &sheet) { printDataSheets(m_engine, sheet); });
 }
 

@@ -264,8 +264,12 @@ TEST_F(Commands, PrintMapAndDataThroughThePrintDialog)
     EXPECT_TRUE(w->engine().mapComputed());
 
     dialogs.copies = 1;
+    // The visible fields are read first: a chord still being typed is printed.
+    field(0, 7)->setFocus();
+    QTest::keyClicks(field(0, 7), "4321");
     trigger("FilePrint");
     EXPECT_TRUE(printedText("Distance"));
+    EXPECT_TRUE(printedText("4321"));
     EXPECT_TRUE(printedText("end"));
 
     trigger("FilePreviewmap");
