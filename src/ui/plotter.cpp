@@ -447,9 +447,9 @@ void Plotter::selectUnits(int index)
 
 void Plotter::Filemenu_Click()
 {
-    // Nothing can be saved before the first computation.
-    m_saveAs->setEnabled(m_engine.mapComputed());
-    m_backup->setEnabled(m_engine.mapComputed());
+    // Nothing can be saved, printed or copied as data before the first computation.
+    for (QAction *a : {m_saveAs, m_backup, m_printMap, m_printData, m_copyData})
+        a->setEnabled(m_engine.mapComputed());
 }
 
 void Plotter::saveit(int mode)

@@ -130,6 +130,10 @@ private:
     /// The map canvas size in twips, for the engine's fit.
     void fitToCanvas(float scale = 1.0f);
     void refreshVisibleRows();
+    /// The distance, chord and radius fields of the visible rows from the table (global conversion).
+    void refreshLengthFields();
+    /// Copies the visible fields into their table rows where they differ (Print Data reads them first).
+    void readVisibleRows();
     QWidget *buildCentral();
     void fillScalebox();
     void selectUnits(int index);
@@ -165,6 +169,7 @@ private:
     QMenu *m_fileMenu = nullptr;
     QMenu *m_editMenu = nullptr;
     QAction *m_saveAs = nullptr, *m_backup = nullptr;
+    QAction *m_printMap = nullptr, *m_printData = nullptr, *m_copyData = nullptr;
     QAction *m_undo = nullptr, *m_cut = nullptr, *m_copy = nullptr, *m_paste = nullptr;
     QAction *m_acresAction = nullptr, *m_hectaresAction = nullptr;
     bool m_exiting = false;

@@ -57,6 +57,31 @@ void Plotter::refreshVisibleRows()
     m_grid->sync();
 }
 
+void Plotter::refreshLengthFields()
+{
+    // Only the columns the conversion rewrote: a field of another column being
+    // typed keeps its text until it is left.
+    GridRules &rules = m_grid->rules();
+    for (int r = 0; r < GridRules::kVisibleRows; ++r)
+        for (int c : {ColDistance, ColChord, ColRadius})
+            rules.setText({r, c}, cellText(m_engine.table().at(rules.scroll() + r, c)));
+    m_grid->sync();
+}
+
+void Plotter::readVisibleRows()
+{
+    // A field still being typed is printed as shown. Cells the fields already
+    // show are left alone, so a number stored by a conversion stays a number.
+    const GridRules &rules = m_grid->rules();
+    CourseTable &table = m_engine.editTable();
+    for (int r = 0; r < GridRules::kVisibleRows; ++r)
+        for (int c = ColNS; c <= ColTag; ++c) {
+            Cell &cell = table.at(rules.scroll() + r, c);
+            if (const std::string &text = rules.text({r, c}); text != cellText(cell))
+                cell = Cell(text);
+        }
+}
+
 // --- File: print options, printouts, clipboard -------------------------------------
 
 void Plotter::mnuPrintOptions_Click()
@@ -87,6 +112,7 @@ void Plotter::FilePrintmap_Click()
 
 void Plotter::FilePrint_Click()
 {
+    readVisibleRows();
     try {
         m_dialogs.print("Quilmar data", [this](PrintSheet &sheet) { printDataSheets(m_engine, sheet); });
     } catch (const std::exception &) {
@@ -104,6 +130,7 @@ void Plotter::previewMap()
 
 void Plotter::previewData()
 {
+    readVisibleRows();
     m_dialogs.preview("Quilmar data", [this](PrintSheet &sheet) { printDataSheets(m_engine, sheet); });
 }
 
@@ -206,14 +233,16 @@ void Plotter::mnuGlobal1_Click()
 {
     // The map is not redrawn: the next computation reads the new lengths.
     if (const auto units =
-            runGlobal(GlobalConversion::feetToMeters(), m_dialogs, m_engine.editTable(), [this] { refreshVisibleRows(); }))
+            runGlobal(GlobalConversion::feetToMeters(), m_dialogs, m_engine.editTable(),
+                      [this] { refreshLengthFields(); }))
         selectUnits(int(*units));
 }
 
 void Plotter::mnuGlobal2_Click(int index)
 {
     if (const auto units =
-            runGlobal(GlobalConversion::toFeet(index), m_dialogs, m_engine.editTable(), [this] { refreshVisibleRows(); }))
+            runGlobal(GlobalConversion::toFeet(index), m_dialogs, m_engine.editTable(),
+                      [this] { refreshLengthFields(); }))
         selectUnits(int(*units));
 }
 

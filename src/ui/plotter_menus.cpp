@@ -64,13 +64,15 @@ void Plotter::buildMenus()
     separator(m_fileMenu, "sep_file1");
     action(m_fileMenu, "mnuPrintOptions", "Print &Options...", QKeySequence("Ctrl+O"),
            [this] { mnuPrintOptions_Click(); });
-    action(m_fileMenu, "FilePrintmap", "&Print Map...", QKeySequence("Ctrl+P"), [this] { FilePrintmap_Click(); });
-    action(m_fileMenu, "FilePrint", "Print &Data...", QKeySequence("Ctrl+D"), [this] { FilePrint_Click(); });
+    m_printMap = action(m_fileMenu, "FilePrintmap", "&Print Map...", QKeySequence("Ctrl+P"),
+                        [this] { FilePrintmap_Click(); });
+    m_printData =
+        action(m_fileMenu, "FilePrint", "Print &Data...", QKeySequence("Ctrl+D"), [this] { FilePrint_Click(); });
     // Beyond the classic menu: both printouts in Qt's preview first.
     action(m_fileMenu, "FilePreviewmap", "Print Pre&view...", {}, [this] { previewMap(); });
     action(m_fileMenu, "FilePreviewdata", "Print Preview of Dat&a...", {}, [this] { previewData(); });
-    action(m_fileMenu, "Fileprinttext", "Cop&y Data to Clipboard", QKeySequence("Ctrl+Y"),
-           [this] { Fileprinttext_Click(); });
+    m_copyData = action(m_fileMenu, "Fileprinttext", "Cop&y Data to Clipboard", QKeySequence("Ctrl+Y"),
+                        [this] { Fileprinttext_Click(); });
     action(m_fileMenu, "filemakebmp", "Copy Map to Clipboard (bmp)", {}, [this] { filemakebmp_Click(); });
     // The set-up entry and its separator exist but are never shown.
     separator(m_fileMenu, "sep_setup")->setVisible(false);

@@ -217,9 +217,14 @@ TEST_F(Commands, GlobalConversionAsksConvertsRefreshesAndSelectsTheUnit)
     EXPECT_EQ(w->engine().units(), Units::Feet);
     EXPECT_EQ(w->engine().mapComputed(), drawnBefore); // no redraw
 
+    // Only the length fields are refreshed: degrees being typed (not yet stored) stay.
+    field(2, 2)->setFocus();
+    QTest::keyClicks(field(2, 2), "45");
+    ASSERT_EQ(field(2, 2)->text(), "45");
     dialogs.answers = {Answer::Yes};
     trigger("mnuGlobal1");
     EXPECT_EQ(field(0, 6)->text(), "100");
+    EXPECT_EQ(field(2, 2)->text(), "45");
     EXPECT_EQ(w->engine().units(), Units::Meters);
 
     // A cell that is not a number ends the conversion with its own message.
@@ -278,8 +283,12 @@ TEST_F(Commands, PrintMapAndDataThroughThePrintDialog)
     EXPECT_TRUE(w->engine().mapComputed());
 
     dialogs.copies = 1;
+    // The visible fields are read first: a chord still being typed is printed.
+    field(0, 7)->setFocus();
+    QTest::keyClicks(field(0, 7), "4321");
     trigger("FilePrint");
     EXPECT_TRUE(printedText("Distance"));
+    EXPECT_TRUE(printedText("4321"));
     EXPECT_TRUE(printedText("end"));
 
     trigger("FilePreviewmap");

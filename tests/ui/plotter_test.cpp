@@ -30,6 +30,13 @@ TEST_F(Window, StartsWithTheScaleListUnitsAndNames)
     EXPECT_EQ(scale->currentText(), "Standard");
     EXPECT_TRUE(child<QRadioButton>("metrix_0")->isChecked());
     EXPECT_FALSE(w->engine().mapComputed()); // "Standard" at start-up draws nothing
+    // Nothing to save, print or copy before the first computation; a sample computes at once.
+    const char *const needsMap[] = {"Filesave", "mnuBackup", "FilePrintmap", "FilePrint", "Fileprinttext"};
+    for (const char *name : needsMap)
+        EXPECT_FALSE(action(name)->isEnabled()) << name;
+    action("demosample4")->trigger();
+    for (const char *name : needsMap)
+        EXPECT_TRUE(action(name)->isEnabled()) << name;
     EXPECT_EQ(field(0, 1)->objectName(), "Text1_0");
     EXPECT_EQ(field(9, 10)->objectName(), "Text10_9");
     EXPECT_EQ(field(0, 2)->accessibleName(), "Row 1 Deg");
