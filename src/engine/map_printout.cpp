@@ -30,14 +30,11 @@ std::vector<std::string> referenceListEntries(const Engine &engine)
 
 std::string printedScaleCaption(const Engine &engine)
 {
-    std::string autoScale;
-    try {
-        // A printing draw doubles the fit of a size level; half of it is the fit
-        // whose AutoScale caption tells the printed scale.
-        autoScale = autoScaleCaption(engine.scaleChoice(), engine.scaleFactor() / 2.0f);
-    } catch (const VbError &) {
-    }
-    return scaleCaption(engine.scaleText(), autoScale, engine.units(), engine.printOptions().referenceList == 1);
+    // The caption is printed before the printing draw, from what Autoscalebox
+    // shows at that moment (a printing draw leaves it as it was), so at a size
+    // level the paper repeats the window's AutoScale number, as it always has.
+    return scaleCaption(engine.scaleText(), engine.autoscalebox(), engine.units(),
+                        engine.printOptions().referenceList == 1);
 }
 
 namespace {
@@ -65,11 +62,11 @@ std::string printMapPage(Engine &engine, Surface &surface, PageSize page, int co
             if (copy > 1)
                 surface.newPage();
             MapPageText text = pageText(engine);
+            text.scaleCaption = printedScaleCaption(engine);
             const MapPageLayout layout = planMapPage(surface, page, text);
             const PageRect printing = printCanvas(layout.mapArea);
             engine.setCanvasSize(printing.width, printing.height);
             const DrawResult &draw = engine.mindraw({.printing = true});
-            text.scaleCaption = printedScaleCaption(engine);
             text.listEntries = referenceListEntries(engine);
             paintMapPage(surface, page, layout, text, draw.figure, draw.view.scaleLeft, draw.view.scaleTop);
         }

@@ -30,8 +30,8 @@ std::vector<std::string> referenceListEntries(const Engine &engine);
 /// @returns "" or the description of a fault that ended the job
 std::string printMapPage(Engine &engine, Surface &surface, PageSize page, int copies = 1);
 
-/// The scale caption of the page for the engine's current draw (a printing
-/// draw: the AutoScale part is worked out from its factor).
+/// The scale caption of the page: the scale text's number, or at a size level
+/// the window's AutoScale caption as it stands (never the printing draw's).
 std::string printedScaleCaption(const Engine &engine);
 
 /// Prints the data listing in the fixed-pitch font: the description, the

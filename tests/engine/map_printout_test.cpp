@@ -79,26 +79,27 @@ TEST(MapPrintout, ReferenceLabelsAndBalancedGapFollowTheirOptions)
     }
 }
 
-TEST(MapPrintout, CaptionTellsThePrintedScale)
+TEST(MapPrintout, CaptionRepeatsTheScaleOrTheWindowsAutoScale)
 {
-    // factor 0: fitted to the page; a numeric scale draws at its own factor.
-    const struct { const char *scale, *caption; float factor; } cases[] = {
-        {"Standard", "Scale = 1: ", 0.0f}, {"1000:1", "Scale = 1:1000 (Feet)", 1.44f}};
-    for (const auto &c : cases) {
-        Printed p(kOpenSquare, c.scale);
+    // A numeric scale prints at its own factor and says so; a size level
+    // prints the window's AutoScale number, whatever the page's fit.
+    {
+        Printed p(kOpenSquare, "1000:1");
         RecordingSurface page;
         printMapPage(p.engine, page, kLetterPage);
-        const std::vector<std::string> captions = test::callsContaining(page, c.caption);
-        ASSERT_EQ(captions.size(), 1u) << c.scale;
-        ASSERT_NE(captions[0].find(" (Feet)"), std::string::npos) << captions[0];
-        const double n = std::stod(captions[0].substr(captions[0].find("1:") + 2));
-        // 1 inch = n feet: a 100-foot side is 144000 / n twips long on paper.
+        EXPECT_EQ(test::callsContaining(page, "Scale = 1:1000 (Feet)").size(), 1u);
+        EXPECT_FLOAT_EQ(p.engine.scaleFactor(), 1.44f);
         const std::vector<Line> lines = mapLines(page);
-        EXPECT_NEAR(n, 144000.0 / std::fabs(lines[0].y2 - lines[0].y1), c.factor ? n * 1e-4 : 0.5 + n * 0.002) << c.scale;
-        if (c.factor) {
-            EXPECT_FLOAT_EQ(p.engine.scaleFactor(), c.factor);
-        }
+        EXPECT_NEAR(std::fabs(lines[0].y2 - lines[0].y1), 144.0, 0.01);
     }
+    Printed p(kOpenSquare, "Standard");
+    const std::string window = p.engine.autoscalebox();
+    ASSERT_EQ(window.rfind("AutoScale = ", 0), 0u) << window;
+    RecordingSurface page;
+    printMapPage(p.engine, page, kLetterPage, 2);
+    const std::string caption = "Scale = 1: " + window.substr(12) + " (Feet)";
+    EXPECT_EQ(test::callsContaining(page, caption).size(), 2u) << caption;
+    EXPECT_EQ(p.engine.autoscalebox(), window);
 }
 
 TEST(MapPrintout, MapLandsInsideTheMarginsBelowTheCaption)
