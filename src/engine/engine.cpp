@@ -40,7 +40,6 @@ const DrawResult &Engine::mindraw(const DrawRequest &request)
         return m_draw;
     }
     m_mapComputed = true;
-    ++m_drawCount;
     m_state.areaMode = request.areaMode;
     m_state.perimeterMode = request.perimeterMode;
     m_draw.error.reset();

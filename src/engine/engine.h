@@ -108,8 +108,10 @@ public:
     const DrawResult &redraw();
     void mnuGap_Click();
     void mnuPeri_Click();
-    void mnuAcres_Click();
-    void mnuHectares_Click();
+    /// Calculate Acres and Hectares. @returns false when the command refused
+    /// (the gap too large to close): nothing was drawn and the result line stays.
+    bool mnuAcres_Click();
+    bool mnuHectares_Click();
     /// Selects a unit option and its unit factor (unitFactor()).
     void metrix_Click(Units units);
     /// Opens a map file as "Open File..." does once its dialog has chosen @p path,
@@ -143,9 +145,6 @@ public:
     const PrintOptions &printOptions() const { return m_printOptions; }
     /// The File menu's flag: true once any mindraw has computed a map.
     bool mapComputed() const { return m_mapComputed; }
-    /// How many times mindraw has computed a map; a command that refused
-    /// (Calculate Acres with a gap) leaves it as it was, and so does the window.
-    unsigned drawCount() const { return m_drawCount; }
     /// The area texts of the last draw: "A acres [S sq ft]" and
     /// "S Square Meters [H Ha]" (built when asked; "" before any draw).
     std::string imperialText() const;
@@ -203,7 +202,6 @@ private:
     bool m_perimeterModeLeftOn = false;
     bool m_skipOnce = false;
     bool m_mapComputed = false;
-    unsigned m_drawCount = 0;
     std::string m_acresbox;
     std::string m_description;
     // The numbers behind Autoscalebox and the two area texts; their texts are

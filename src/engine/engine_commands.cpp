@@ -92,30 +92,36 @@ bool Engine::areaGapTooLarge(bool hectares)
     return true;
 }
 
-void Engine::mnuAcres_Click()
+bool Engine::mnuAcres_Click()
 {
+    bool drew = false;
     try {
         if (areaGapTooLarge(false))
-            return;
+            return false;
         m_imperialSquareUnits.reset();
         mindraw({.areaMode = true, .perimeterMode = m_perimeterModeLeftOn});
+        drew = true;
         m_acresbox = imperialText();
     } catch (const VbError &e) {
         showError(e.description());
     }
+    return drew;
 }
 
-void Engine::mnuHectares_Click()
+bool Engine::mnuHectares_Click()
 {
+    bool drew = false;
     try {
         if (areaGapTooLarge(true))
-            return;
+            return false;
         m_metricSquareUnits.reset();
         mindraw({.areaMode = true, .perimeterMode = m_perimeterModeLeftOn});
+        drew = true;
         m_acresbox = metricText();
     } catch (const VbError &e) {
         showError(e.description());
     }
+    return drew;
 }
 
 } // namespace quilmar

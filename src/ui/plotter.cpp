@@ -259,18 +259,14 @@ void Plotter::showResults()
 void Plotter::mnuAcres_Click()
 {
     fitToCanvas();
-    const unsigned draws = m_engine.drawCount();
-    m_engine.mnuAcres_Click();
-    if (m_engine.drawCount() != draws)
+    if (m_engine.mnuAcres_Click())
         showResults();
 }
 
 void Plotter::mnuHectares_Click()
 {
     fitToCanvas();
-    const unsigned draws = m_engine.drawCount();
-    m_engine.mnuHectares_Click();
-    if (m_engine.drawCount() != draws)
+    if (m_engine.mnuHectares_Click())
         showResults();
 }
 
