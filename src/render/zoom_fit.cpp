@@ -71,6 +71,7 @@ ZoomPicture zoomPicture(float screenHeightTwips)
     picture.side = 2.0f * screenHeightTwips;
     const double max = roundEven(0.7 * double(picture.side));
     picture.scrollMax = int(std::clamp(max, -32768.0, 32767.0));
+    picture.overflow = max != double(picture.scrollMax);
     picture.smallChange = picture.scrollMax / 10;
     return picture;
 }

@@ -42,11 +42,14 @@ float magnifiedScaleFactor(const ZoomFit &fit, double magnification);
 
 /// The zoom picture: a square twice the screen's height (twips), and its
 /// scroll bars' maximum (0.7 of the side, as a 16-bit integer) and small
-/// change (a tenth of the maximum, truncated).
+/// change (a tenth of the maximum, truncated). A maximum beyond the 16-bit
+/// range is held at its end and flagged: making the window then faults with
+/// "Overflow" (a screen taller than 23405 twips).
 struct ZoomPicture {
     float side = 0.0f;
     int scrollMax = 0;
     int smallChange = 0;
+    bool overflow = false;
 };
 ZoomPicture zoomPicture(float screenHeightTwips);
 

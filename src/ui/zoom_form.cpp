@@ -77,10 +77,8 @@ ZoomForm::ZoomForm(Engine &engine, Dialogs &dialogs, QWidget *parent, float scre
         bar->setRange(0, picture.scrollMax);
         bar->setSingleStep(picture.smallChange);
     }
-    // The bars' maximum is a 16-bit integer: on a screen taller than 23405
-    // twips making the window faults with "Overflow", and the window stays.
-    // Its bars then keep the largest maximum they can hold.
-    if (roundEven(0.7 * double(m_side)) > 32767.0)
+    // The window stays after the fault; its bars keep the largest maximum they can hold.
+    if (picture.overflow)
         m_dialogs.exclaim(VbError::overflow().description());
     onScroll(m_hscroll, [this](int v, bool ended) { HScroll1_Change(v, ended); });
     onScroll(m_vscroll, [this](int v, bool ended) { VScroll1_Change(v, ended); });

@@ -134,7 +134,10 @@ TEST(ZoomFit, Magnifications)
 TEST(ZoomFit, PictureWindowAndTheSixtyTwipJumpWhenTheDragEnds)
 {
     const ZoomPicture p = zoomPicture(11520.0f); // twice the screen height, with its scroll bars
-    EXPECT_EQ(std::tuple(p.side, p.scrollMax, p.smallChange), std::tuple(23040.0f, 16128, 1612));
+    EXPECT_EQ(std::tuple(p.side, p.scrollMax, p.smallChange, p.overflow), std::tuple(23040.0f, 16128, 1612, false));
+    // 0.7 of twice 23406 twips passes the bars' 16-bit maximum: held there, and flagged
+    const ZoomPicture tall = zoomPicture(23406.0f);
+    EXPECT_EQ(std::tuple(tall.scrollMax, tall.overflow, zoomPicture(23405.0f).overflow), std::tuple(32767, true, false));
     EXPECT_EQ(std::tuple(zoomPictureOffset(1000, false), zoomPictureOffset(1000, true), zoomPictureOffset(0, true)),
               std::tuple(-1000, -940, 60));
     const ZoomWindowPlacement w = zoomWindowPlacement(15360, 11520);
