@@ -305,8 +305,9 @@ TEST_F(Grid, FieldStillFocusedAfterTheWindowScrollsStoresIntoTheRowItShows)
         g.setText(c.focused, "7");
         g.lostFocus(c.focused);
         EXPECT_EQ(t.at(c.row, c.focused.column).text(), "7") << c.how;
-        if (c.row != c.before + c.focused.row)
+        if (c.row != c.before + c.focused.row) {
             EXPECT_EQ(t.at(c.before + c.focused.row, c.focused.column).text(), "") << c.how;
+        }
         EXPECT_EQ(g.valueOnEntry(), "") << c.how; // the refilled text, so an unchanged field does not redraw
     }
 }

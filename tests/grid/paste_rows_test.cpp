@@ -76,8 +76,9 @@ TEST(PasteRows, IntoTheTable)
         for (auto [row, text] : c.after)
             EXPECT_EQ(table.at(row, ColDistance).text(), text) << "row " << row;
         EXPECT_EQ(table.highest, c.highest);
-        if (out.pasted)
+        if (out.pasted) {
             EXPECT_EQ(table.at(c.at, ColNS).text(), "N");
+        }
     }
 }
 

@@ -92,9 +92,10 @@ TEST_F(Commands, TheMenuTreeWithNamesCaptionsShortcutsAndHiddenEntries)
     QHash<QString, QString> owner;
     for (QAction *a : w->findChildren<QAction *>()) {
         const QString key = a->shortcut().toString();
-        if (!key.isEmpty())
+        if (!key.isEmpty()) {
             EXPECT_FALSE(owner.contains(key)) << qPrintable(key) << ": " << qPrintable(owner[key]) << ", "
                                               << qPrintable(a->objectName());
+        }
         owner[key] = a->objectName();
     }
 

@@ -114,8 +114,9 @@ TEST(PasteDeedDialog, InsertReturnsRowsCancelReturnsNothing)
         });
         const auto rows = dialogs.pasteDeedText(kDeed.toStdString());
         EXPECT_EQ(rows.has_value(), std::string(button) == "Insert");
-        if (rows)
+        if (rows) {
             EXPECT_EQ(rows->size(), 3u); // N 30 30 W, S 60 E, C
+        }
     }
 }
 
