@@ -57,6 +57,9 @@ QLabel *resultLabel(const char *name, QWidget *parent)
     label->setObjectName(name);
     label->setAccessibleName(name);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    // A result line shows its text as it stands: an answer echoed into it that
+    // looks like markup ("<b>45 10 20") is not rendered as markup.
+    label->setTextFormat(Qt::PlainText);
     return label;
 }
 

@@ -166,6 +166,14 @@ TEST_F(Commands, ConvertersAndCalculatorsAskAndShowTheirResults)
         {"mnuConvAngle", "50 26.96", "Conversion", "Angle = 106\u00B0 15' 38.617''", nullptr, nullptr},
         {"mnuReciprocal", "45 10 20", "Reciprocal Angle", "Reciprocal of 45 10 20 = 44  49  40", nullptr, nullptr},
         {"mnuReciprocal", "91 0 0", "Reciprocal Angle", nullptr, nullptr, "Incorrect Input"},
+        // the answer is shown as typed, even when it looks like markup
+        {"mnuReciprocal", "<b>45 10 20", "Reciprocal Angle", "Reciprocal of <b>45 10 20 = 89  49  40", nullptr, nullptr},
+    };
+    // What the result line shows, as the user would select and copy it.
+    auto shownAcres = [this] {
+        auto *box = child<QLabel>("Acresbox");
+        box->setSelection(0, int(box->text().size()));
+        return box->selectedText().toStdString();
     };
     for (const auto &c : cases) {
         child<QLabel>("Acresbox")->setText("before");
@@ -176,6 +184,7 @@ TEST_F(Commands, ConvertersAndCalculatorsAskAndShowTheirResults)
         ASSERT_EQ(dialogs.titles.size(), 1u) << c.entry;
         EXPECT_EQ(dialogs.titles[0], c.title) << c.entry;
         EXPECT_EQ(acres(), c.acresbox ? c.acresbox : "before") << c.entry;
+        EXPECT_EQ(shownAcres(), acres()) << c.entry;
         EXPECT_EQ(clipboard(), c.clipboard ? c.clipboard : "before") << c.entry;
         EXPECT_EQ(dialogs.texts(), c.message ? std::vector<std::string>{c.message} : std::vector<std::string>{}) << c.entry;
     }
