@@ -431,7 +431,9 @@ void Plotter::addScale_Click()
 void Plotter::metrix_Click(int index)
 {
     m_engine.metrix_Click(static_cast<Units>(index));
-    // The conversion menus' unit-dependent entries are shown and hidden here.
+    // The unit-dependent entries of the Conversions and Map menus stay as the
+    // start-up's measurement system set them (showUnitEntries): a later choice of
+    // units does not show or hide them.
 }
 
 void Plotter::selectUnits(int index)
