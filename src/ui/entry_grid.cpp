@@ -249,13 +249,14 @@ bool EntryGrid::eventFilter(QObject *watched, QEvent *event)
         return QGroupBox::eventFilter(watched, event);
     switch (event->type()) {
     case QEvent::ShortcutOverride: {
-        // The window's Edit and Map shortcuts win over the field's own (Ctrl+A
-        // calculates acres; it never selects text).
+        // The window's File, Edit and Map shortcuts win over the field's own
+        // (Ctrl+A calculates acres, it never selects text; Ctrl+Y copies the
+        // data, it never redoes).
         auto *k = static_cast<QKeyEvent *>(event);
         const auto combo = k->keyCombination();
         const bool ours = (k->modifiers() == Qt::ControlModifier &&
                            (combo.key() == Qt::Key_A || combo.key() == Qt::Key_Z || combo.key() == Qt::Key_X ||
-                            combo.key() == Qt::Key_C || combo.key() == Qt::Key_V)) ||
+                            combo.key() == Qt::Key_C || combo.key() == Qt::Key_V || combo.key() == Qt::Key_Y)) ||
                           (k->modifiers() == Qt::ShiftModifier && combo.key() == Qt::Key_Delete);
         if (ours) {
             event->ignore();

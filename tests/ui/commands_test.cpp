@@ -2,6 +2,7 @@
 // question answered by ScriptedDialogs.
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QImage>
 #include <QMenuBar>
 #include <QPageLayout>
@@ -460,4 +461,29 @@ TEST_F(Commands, TheMapPrintoutAsAPdfReadBack)
     EXPECT_FALSE(writePrintoutPdf(QString::fromStdString((dir / "none" / "x.pdf").string()), letter,
                                   [](PrintSheet &) {}, 1, error));
     EXPECT_FALSE(error.empty());
+}
+
+// A menu shortcut wins over the text field that has the focus: Ctrl+Y copies
+// the data rather than redoing a typed text.
+TEST_F(Commands, MenuShortcutsWinOverTheFocusedField)
+{
+    QWidget *fields[] = {field(1, 1), field(1, 6), field(9, 10)};
+    for (QWidget *f : fields) {
+        f->setFocus();
+        f = QApplication::focusWidget(); // the widget the keys go to
+        for (QAction *a : w->findChildren<QAction *>()) {
+            const QKeySequence key = a->shortcut();
+            if (key.isEmpty())
+                continue;
+            QKeyEvent e(QEvent::ShortcutOverride, key[0].key(), key[0].keyboardModifiers());
+            QApplication::sendEvent(f, &e);
+            EXPECT_FALSE(e.isAccepted()) << qPrintable(f->objectName()) << " took " << qPrintable(key.toString());
+        }
+    }
+    closeTagMenu(); // the tag field's focus opened it
+    trigger("demosample6");
+    click(field(1, 6));
+    QApplication::clipboard()->clear();
+    QTest::keyClick(field(1, 6), Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(clipboard(), "S 100\r\nS 45\xC2\xB0 E 75\r\nNew\r\nS 45\xC2\xB0 W 75\r\n Back to pob\r\n");
 }
