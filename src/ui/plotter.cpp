@@ -171,6 +171,7 @@ QWidget *Plotter::buildCentral()
     m_scalebox->setMinimumContentsLength(10);
     m_label1->setBuddy(m_scalebox);
     m_scalebox->lineEdit()->installEventFilter(this);
+    m_scalebox->installEventFilter(this); // the box has the focus and hands its keys to its text
     connect(m_scalebox, &QComboBox::editTextChanged, this,
             [this](const QString &t) { m_engine.setScaleText(t.toStdString()); });
     connect(m_scalebox, &QComboBox::activated, this, &Plotter::Scalebox_Click);
@@ -375,7 +376,8 @@ QLineEdit *Plotter::editLine() const
     // else the scale box's text while it has the focus.
     if (QLineEdit *f = m_grid->activeField())
         return f;
-    return QApplication::focusWidget() == m_scalebox->lineEdit() ? m_scalebox->lineEdit() : nullptr;
+    const QWidget *focus = QApplication::focusWidget();
+    return focus == m_scalebox || focus == m_scalebox->lineEdit() ? m_scalebox->lineEdit() : nullptr;
 }
 
 void Plotter::Editmenu_Click()
@@ -568,12 +570,40 @@ void Plotter::closeEvent(QCloseEvent *event)
         event->ignore();
 }
 
+namespace {
+
+// The window's shortcuts that a text box would otherwise keep for itself: the
+// menu's command runs instead (Ctrl+Y copies the data, it never redoes; Shift+Del
+// clears the current row, it never cuts; the Edit keys reach the box through
+// the Edit menu all the same).
+bool windowShortcut(const QKeyEvent &k)
+{
+    if (k.modifiers() == Qt::ShiftModifier)
+        return k.key() == Qt::Key_Delete;
+    if (k.modifiers() != Qt::ControlModifier)
+        return false;
+    switch (k.key()) {
+    case Qt::Key_A:
+    case Qt::Key_Z:
+    case Qt::Key_X:
+    case Qt::Key_C:
+    case Qt::Key_V:
+    case Qt::Key_Y:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
 bool Plotter::eventFilter(QObject *watched, QEvent *event)
 {
     // Ctrl+A calculates acres everywhere in the window; it never selects text.
     if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) {
         auto *k = static_cast<QKeyEvent *>(event);
-        if (k->modifiers() == Qt::ControlModifier && k->key() == Qt::Key_A) {
+        if (event->type() == QEvent::ShortcutOverride ? windowShortcut(*k)
+                                                       : k->modifiers() == Qt::ControlModifier && k->key() == Qt::Key_A) {
             event->ignore();
             return true;
         }

@@ -464,13 +464,16 @@ TEST_F(Commands, TheMapPrintoutAsAPdfReadBack)
 }
 
 // A menu shortcut wins over the text field that has the focus: Ctrl+Y copies
-// the data rather than redoing a typed text.
+// the data rather than redoing a typed text, Ctrl+A in the scale box calculates
+// acres rather than selecting, Shift+Del in the heading clears the current row
+// rather than cutting.
 TEST_F(Commands, MenuShortcutsWinOverTheFocusedField)
 {
-    QWidget *fields[] = {field(1, 1), field(1, 6), field(9, 10)};
+    QWidget *fields[] = {field(1, 1), field(1, 6), field(9, 10), child<QComboBox>("Scalebox")->lineEdit(),
+                         child<QPlainTextEdit>("Headerbox")};
     for (QWidget *f : fields) {
         f->setFocus();
-        f = QApplication::focusWidget(); // the widget the keys go to
+        f = QApplication::focusWidget(); // the scale box takes the keys of its text
         for (QAction *a : w->findChildren<QAction *>()) {
             const QKeySequence key = a->shortcut();
             if (key.isEmpty())
@@ -486,4 +489,20 @@ TEST_F(Commands, MenuShortcutsWinOverTheFocusedField)
     QApplication::clipboard()->clear();
     QTest::keyClick(field(1, 6), Qt::Key_Y, Qt::ControlModifier);
     EXPECT_EQ(clipboard(), "S 100\r\nS 45\xC2\xB0 E 75\r\nNew\r\nS 45\xC2\xB0 W 75\r\n Back to pob\r\n");
+
+    // The Edit keys reach the scale box through the Edit menu.
+    auto *scale = child<QComboBox>("Scalebox");
+    scale->setFocus();
+    scale->lineEdit()->selectAll();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(clipboard(), "Standard");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(acres(), "0.06 acres [2,651.65 sq ft]");
+    auto *heading = child<QPlainTextEdit>("Headerbox");
+    heading->setFocus();
+    heading->selectAll();
+    dialogs.answers = {Answer::Cancel};
+    QTest::keyClick(heading, Qt::Key_Delete, Qt::ShiftModifier);
+    EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"Are you sure you want to clear the entries of the current line?"});
+    EXPECT_TRUE(heading->toPlainText().startsWith("This is a sample of a lot"));
 }
