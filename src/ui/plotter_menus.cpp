@@ -206,7 +206,12 @@ void Plotter::buildToolbar()
         QAction *a = bar->addAction(toolbarIcon(i), tips[i]);
         a->setToolTip(tips[i]);
         a->setObjectName(QString("Toolbar_%1").arg(i));
-        bar->widgetForAction(a)->setObjectName(QString("Toolbar_%1").arg(i));
+        QWidget *button = bar->widgetForAction(a);
+        button->setObjectName(QString("Toolbar_%1").arg(i));
+        // A button takes the focus when clicked, as any control of the window
+        // does: the field being typed is left first, so its value is in the
+        // table (and checked) before the button's command reads the table.
+        button->setFocusPolicy(Qt::ClickFocus);
         // An error inside a button's command ends that command silently.
         connect(a, &QAction::triggered, this, [this, i] { quietly([&] { Toolbar_Click(i); }); });
         m_actions[i] = a;

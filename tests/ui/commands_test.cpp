@@ -130,6 +130,17 @@ TEST_F(Commands, ToolbarButtonsZeroToSixWithTheirTooltips)
     w->Toolbar_Click(0);
     EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"Please specify the North-South direction."});
 
+    // A click on a button leaves the field being typed first: its value is drawn.
+    start(true);
+    click(field(0, ColNS));
+    type("N");
+    click(field(0, ColDistance));
+    type("250");
+    click(w->findChild<QToolBar *>("Toolbar")->widgetForAction(action("Toolbar_0")));
+    EXPECT_EQ(cell(0, ColDistance), "250");
+    ASSERT_FALSE(w->engine().legs().empty());
+    EXPECT_FLOAT_EQ(w->engine().legs()[0].distance, 250);
+
     // Button 4 gives acres with feet and hectares with metres.
     trigger("demosample4");
     w->Toolbar_Click(4);
