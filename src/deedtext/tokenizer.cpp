@@ -86,6 +86,35 @@ private:
 
     char at(size_t i) const { return i < m_s.size() ? m_s[i] : '\0'; }
 
+    /// Where a run of digits and the capital-letter look-alikes (l, I, O) that
+    /// starts at @p i ends, when nothing alphabetic follows it: "1OO feet",
+    /// "lO E", "OO." read as numbers; "Ill." or "OIL" do not (see callers).
+    /// Returns @p i when the run runs on into a word.
+    size_t lookalikeRunEnd(size_t i) const
+    {
+        size_t j = i;
+        while (isDigit(at(j)) || (isDigitLookalike(at(j)) && at(j) != 'o'))
+            ++j;
+        return isAlpha(at(j)) ? i : j;
+    }
+
+    /// A number that a scanner wrote wholly in letters: at least two of them
+    /// with an O among them ("lO", "IO"), or one right before a degree sign
+    /// ("O°"). Runs of I and l alone are Roman numerals and abbreviations
+    /// ("Tract II", "Ill.") and stay words.
+    bool lettersAsNumber(size_t i) const
+    {
+        const size_t end = lookalikeRunEnd(i);
+        if (end == i)
+            return false;
+        bool zero = false;
+        for (size_t k = i; k < end; ++k)
+            zero = zero || m_s[k] == 'O' || isDigit(m_s[k]);
+        if (end - i >= 2)
+            return zero;
+        return at(end) == '\xC2' && at(end + 1) == '\xB0';
+    }
+
     /// A small "o" at @p i right after digits that stands for the degree sign:
     /// not followed by a letter, and not a zero inside a number ("1o0") unless
     /// minutes follow ("45o30'").
@@ -123,7 +152,8 @@ private:
             return;
         }
         const char prev = m_i > 0 ? m_s[m_i - 1] : ' ';
-        if (isDigit(c) || (isDigitLookalike(c) && c != 'o' && isDigit(at(m_i + 1)) && !isAlpha(prev)))
+        if (isDigit(c)
+            || (isDigitLookalike(c) && c != 'o' && !isAlpha(prev) && (isDigit(at(m_i + 1)) || lettersAsNumber(m_i))))
             return number();
         if (isAlpha(c))
             return word();
@@ -229,9 +259,11 @@ private:
                 } else if (c == 'o' && !digits.empty() && smallDegree(m_i)) {
                     // A typed small "o" after the degrees stands for the degree sign: "N 45o 30' E".
                     break;
-                } else if (isDigitLookalike(c) && !digits.empty() && digits.back() != '.'
-                           && (isDigit(at(m_i + 1)) || (isDigitLookalike(at(m_i + 1)) && isDigit(at(m_i + 2)))
-                               || !isAlpha(at(m_i + 1)))) {
+                } else if (isDigitLookalike(c) && !digits.empty()
+                           && ((digits.back() != '.'
+                                && (isDigit(at(m_i + 1)) || (isDigitLookalike(at(m_i + 1)) && isDigit(at(m_i + 2)))
+                                    || !isAlpha(at(m_i + 1))))
+                               || (c != 'o' && lookalikeRunEnd(m_i) != m_i))) {
                     digits += lookalikeDigit(c);
                     ++m_i;
                 } else if (isDigitLookalike(c) && digits.empty()) {
@@ -267,7 +299,8 @@ private:
                 m_i = j;
             }
         }
-        if (at(m_i) == '.' && isDigit(at(m_i + 1))) {
+        if (at(m_i) == '.'
+            && (isDigit(at(m_i + 1)) || (at(m_i + 1) != 'o' && isDigitLookalike(at(m_i + 1)) && lookalikeRunEnd(m_i + 1) != m_i + 1))) {
             digits += '.';
             ++m_i;
             takeDigits();

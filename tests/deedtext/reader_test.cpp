@@ -51,7 +51,9 @@ TEST(Tokenizer, NumberWordsReadAsOneNumber)
         {"thirty and a half", 30.5}, {"twelve and one-quarter", 12.25}, {"sixty-two and 50/100", 62.5},
         {"two thousand one hundred", 2100}, {"three quarters", 0.75}, {"60 1/4", 60.25}, {"18½", 18.5},
         {"45-1/2", 45.5}, {"2,150", 2150}, {"1,875.5", 1875.5}, {"l5", 15}, {"1O0", 100}, {"2l5.4O", 215.4},
-        {"ninety-five (95)", 95}};
+        {"ninety-five (95)", 95},
+        // Two scanned zeros in a row, and in the decimals: read as 1, 100 and 1.
+        {"1OO", 100}, {"1OO.OO", 100}, {"3OO.5O", 300.5}, {"lO", 10}};
     for (const auto &[text, value] : cases) {
         const auto n = numbers(text);
         ASSERT_EQ(n.size(), 1u) << text;
@@ -72,7 +74,10 @@ TEST(Tokenizer, ShapesAndSpans)
         {"N45-30-15E", "n 45 - 30 - 15 e"},                                // a glued bearing splits
         {"to the place of begin-\nning", "to the place of beginning"},    // a hyphenated line break joins
         {"S 2?°1?'40\" W", "s 2 ? deg 1 ? min 40 sec w"},                 // lost digits are marked
-        {"10 chams 5 hnks to the P.O.B. T0 Brown's", "10 chains 5 links to the pob to browns"}};
+        {"10 chams 5 hnks to the P.O.B. T0 Brown's", "10 chains 5 links to the pob to browns"},
+        // A bearing scanned wholly in letters reads as numbers; Roman numerals and words stay words.
+        {"N lO E 2l0 feet", "n 10 e 210 feet"}, {"N O° 3O' E", "n 0 deg 30 min e"},
+        {"Tract II of Ill. OIL", "tract ii of ill ~ oil"}};
     for (const auto &c : cases)
         EXPECT_EQ(shape(c.text), c.shape) << c.text;
     // Spans point into the text.
