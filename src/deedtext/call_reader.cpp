@@ -17,6 +17,12 @@ bool isNS(std::string_view w) { return w == "n" || w == "s" || w == "north" || w
 bool isEW(std::string_view w) { return w == "e" || w == "w" || w == "east" || w == "west"; }
 bool isDegreeWord(std::string_view w) { return w == "degrees" || w == "degree" || w == "deg" || w == "d" || w == "dg"; }
 bool isMinuteWord(std::string_view w) { return w == "minutes" || w == "minute" || w == "min" || w == "mins" || w == "m"; }
+// Short words that may stand between two direction letters in plain prose ("N of E").
+bool isSmallWord(std::string_view w)
+{
+    return w == "of" || w == "and" || w == "to" || w == "by" || w == "on" || w == "in" || w == "at" || w == "the"
+           || w == "or" || w == "a" || w == "an" || w == "is" || w == "as" || w == "for" || w == "due";
+}
 bool isSecondWord(std::string_view w) { return w == "seconds" || w == "second" || w == "sec" || w == "secs"; }
 
 /// The tokens of one call with what the reader has set aside.
@@ -591,6 +597,17 @@ std::optional<CallReader::Found> CallReader::directionAt(size_t i)
             f.direction.degrees = 45;
             f.end = afterAngle + 1;
             return f;
+        }
+        // "N xx E 210 feet": letters where the angle belongs, between the two
+        // quadrant letters. The angle is lost; the E/W letter is no due course.
+        if (letter && in(k) && (isKind(k, TokKind::Other) || (isKind(k, TokKind::Word) && word(k).size() <= 3
+                                                              && !isSmallWord(word(k))))) {
+            const size_t e = skipPunct(k + 1);
+            if (isEW(word(e)) && word(e).size() == 1) {
+                f.problem = "bearing cannot be read";
+                f.end = e + 1;
+                return f;
+            }
         }
         // Due north or south: the full word, or the letter before a length.
         if ((!letter && cardinalFollower(k)) || isKind(k, TokKind::Number)) {
