@@ -25,6 +25,49 @@ bool isSmallWord(std::string_view w)
 }
 bool isSecondWord(std::string_view w) { return w == "seconds" || w == "second" || w == "sec" || w == "secs"; }
 
+bool isRecordMarker(std::string_view w) { return w == "record" || w == "rec" || w == "deed" || w == "plat"; }
+
+/// "S 12°08' W record", "record S 12°08' W": a bearing that the deed marks as
+/// the record one, beside the measured one that the call follows. When the
+/// N/S word at @p i opens one (tokens before @p end), returns one past its last
+/// token, marker included, and sets @p from to its first; otherwise returns 0.
+size_t recordBearingEnd(const std::vector<Token> &t, size_t i, size_t begin, size_t end, size_t &from)
+{
+    auto wordAt = [&](size_t k) -> std::string_view {
+        return k >= begin && k < end && t[k].kind == TokKind::Word ? std::string_view(t[k].word) : std::string_view();
+    };
+    if (!isNS(wordAt(i)))
+        return 0;
+    size_t k = i + 1;
+    bool number = false;
+    while (k < end
+           && (t[k].kind == TokKind::Number || t[k].kind == TokKind::Degree || t[k].kind == TokKind::Minute
+               || t[k].kind == TokKind::Second || t[k].kind == TokKind::Hyphen || t[k].kind == TokKind::Period
+               || isDegreeWord(wordAt(k)) || isMinuteWord(wordAt(k)) || isSecondWord(wordAt(k)))) {
+        number = number || t[k].kind == TokKind::Number;
+        ++k;
+    }
+    if (!number || !isEW(wordAt(k)))
+        return 0;
+    size_t after = k + 1;
+    while (after < end && (t[after].kind == TokKind::Comma || t[after].kind == TokKind::Period
+                           || t[after].kind == TokKind::LParen))
+        ++after;
+    if (isRecordMarker(wordAt(after))) {
+        from = i;
+        return after + 1;
+    }
+    size_t before = i;
+    while (before > begin && (t[before - 1].kind == TokKind::Comma || t[before - 1].kind == TokKind::Period
+                              || t[before - 1].kind == TokKind::Colon))
+        --before;
+    if (before > begin && isRecordMarker(wordAt(before - 1))) {
+        from = before - 1;
+        return k + 1;
+    }
+    return 0;
+}
+
 /// The tokens of one call with what the reader has set aside.
 class CallReader {
 public:
@@ -215,6 +258,18 @@ void CallReader::setAside()
         }
         if (depth > 0 && recordParen)
             m_active[i - m_begin] = false;
+    }
+    // "S 12°10'05\" W measured, S 12°08' W record, 100 feet": the record
+    // bearing beside the measured one is no part of the course.
+    bool bearingBefore = false;
+    for (size_t i = m_begin; i < m_end; ++i) {
+        if (!m_active[i - m_begin] || !isNS(word(i)))
+            continue;
+        size_t from = i;
+        const size_t to = bearingBefore ? recordBearingEnd(m_t, i, m_begin, m_end, from) : 0;
+        for (size_t k = from; k < to; ++k)
+            m_active[k - m_begin] = false;
+        bearingBefore = true;
     }
     // The rest of the call after a witness tree, an area, a record call or a
     // magnetic note is not part of the course.
@@ -1311,7 +1366,9 @@ std::vector<std::pair<std::size_t, std::size_t>> splitCourses(const std::vector<
         if (t[i].kind == TokKind::Number && i + 1 < end
             && (t[i + 1].kind == TokKind::Minute || (unitNamed(wordAt(i + 1)) && unitNamed(wordAt(i + 1))->known)))
             sawLength = true;
-        if (sawLength && (w == "n" || w == "s" || w == "north" || w == "south")) {
+        size_t recordFrom = i;
+        if (sawLength && (w == "n" || w == "s" || w == "north" || w == "south")
+            && !recordBearingEnd(t, i, begin, end, recordFrom)) {
             size_t k = i + 1;
             while (k < end && (t[k].kind == TokKind::Period || t[k].kind == TokKind::Comma))
                 ++k;
