@@ -1019,6 +1019,19 @@ void CallReader::takeLengths(Call &call, size_t afterDirection)
             call.problems.push_back(chosen->problem);
             return;
         }
+        // "1 00 feet", "100.0.0 feet": a number without a unit right before the
+        // length's own; which digits belong together is not certain.
+        for (const auto &l : lengths) {
+            if (!l.bare || chosen->bare || l.begin >= chosen->begin)
+                continue;
+            const bool gluedPeriod = l.end + 1 == chosen->begin && isKind(l.end, TokKind::Period)
+                                     && m_t[l.end].span.begin == m_t[l.end - 1].span.end
+                                     && m_t[l.end].span.end == m_t[chosen->begin].span.begin;
+            if (l.end == chosen->begin || gluedPeriod) {
+                call.problems.push_back("two numbers before the unit");
+                return;
+            }
+        }
         call.distance = chosen->length;
         if (!chosen->warning.empty())
             call.warnings.push_back(chosen->warning);
