@@ -183,6 +183,9 @@ private:
         size_t begin = 0, end = 0;
     };
     std::optional<Found> directionAt(size_t i);
+    /// The points between the eight main ones: "NNE", "north-northeast"; and
+    /// "north-east" written with a hyphen. "south-easterly" is approximate.
+    std::optional<Found> compassPointAt(size_t i) const;
     /// Whether the token at @p k may follow a cardinal word that gives a due
     /// course ("East 210 feet", "North along", "West, 50 feet"), rather than a
     /// name ("West Elm Street").
@@ -552,11 +555,62 @@ std::optional<Direction> CallReader::azimuthToQuadrant(const Angle &a, std::stri
     return d;
 }
 
+std::optional<CallReader::Found> CallReader::compassPointAt(size_t i) const
+{
+    const std::string_view w = m_t[i].word;
+    static constexpr std::string_view kPoints[] = {"nne", "ene", "ese", "sse", "ssw", "wsw", "wnw", "nnw"};
+    std::string_view first, second;
+    size_t end = i + 1;
+    if (std::find(std::begin(kPoints), std::end(kPoints), w) != std::end(kPoints)) {
+        first = w.substr(0, 1);
+        second = w.substr(1);
+    } else if ((isNS(w) || isEW(w)) && w.size() > 1 && isKind(i + 1, TokKind::Hyphen) && isKind(i + 2, TokKind::Word)
+               && m_t[i + 1].span.begin == m_t[i].span.end && m_t[i + 2].span.begin == m_t[i + 1].span.end) {
+        first = w;
+        second = m_t[i + 2].word;
+        end = i + 3;
+    } else {
+        return std::nullopt;
+    }
+    Found f;
+    f.begin = i;
+    f.end = end;
+    if (isApproximateDirection(second)) {
+        f.problem = "approximate direction '" + std::string(first) + "-" + std::string(second) + "'";
+        return f;
+    }
+    const char lead = char(first[0] - 'a' + 'A');
+    if ((second == "east" || second == "west") && isNS(first)) {
+        f.direction.ns = lead;
+        f.direction.ew = char(second[0] - 'a' + 'A');
+        f.direction.hasAngle = true;
+        f.direction.degrees = 45;
+        return f;
+    }
+    const bool quarter = second == "ne" || second == "nw" || second == "se" || second == "sw" || second == "northeast"
+                         || second == "northwest" || second == "southeast" || second == "southwest";
+    if (!quarter)
+        return std::nullopt;
+    f.direction.ns = second[0] == 'n' ? 'N' : 'S';
+    f.direction.ew = (second.back() == 'e' || second.ends_with("east")) ? 'E' : 'W';
+    f.direction.hasAngle = true;
+    f.direction.minutes = 30;
+    if (lead == f.direction.ns)
+        f.direction.degrees = 22; // north-northeast: a point from north toward northeast
+    else if (lead == f.direction.ew)
+        f.direction.degrees = 67; // east-northeast: a point from east toward northeast
+    else
+        f.problem = "unclear direction '" + std::string(first) + "-" + std::string(second) + "'";
+    return f;
+}
+
 std::optional<CallReader::Found> CallReader::directionAt(size_t i)
 {
     if (!active(i) || m_t[i].kind != TokKind::Word)
         return std::nullopt;
     const std::string_view w = m_t[i].word;
+    if (auto point = compassPointAt(i))
+        return point;
     Found f;
     f.begin = i;
     // Azimuth: "azimuth of 135°20'", "Az. 135-20-00".
