@@ -898,11 +898,12 @@ Call CallReader::read()
         const bool beginningWord = w == "beginning" || w == "begining" || w == "beg" || w == "commencement"
                                    || w == "commencing" || w == "begin" || (w == "starting" && prevWord(i) == "of");
         // "point of beginning", "to the beginning", "said beginning", "the true point of beginning";
-        // not "the beginning of a curve".
-        if (beginningWord && word(i + 1) != "of" && word(i + 1) != "a") {
-            const size_t p1 = prevWordIndex(i);
-            const std::string_view b1 = prevWord(i);
-            const std::string_view b2 = p1 == std::string::npos ? std::string_view() : prevWord(p1);
+        // not "the beginning of a curve"; "the point of beginning of the tract herein described" is.
+        const size_t p1 = beginningWord ? prevWordIndex(i) : std::string::npos;
+        const std::string_view b1 = beginningWord ? prevWord(i) : std::string_view();
+        const std::string_view b2 = p1 == std::string::npos ? std::string_view() : prevWord(p1);
+        const bool pointOf = b1 == "of" && (b2 == "point" || b2 == "place");
+        if (beginningWord && ((word(i + 1) != "of" && word(i + 1) != "a") || pointOf)) {
             const size_t p2 = p1 == std::string::npos ? p1 : prevWordIndex(p1);
             const std::string_view b3 = p2 == std::string::npos ? std::string_view() : prevWord(p2);
             if (b1 == "of" || b1 == "the" || b1 == "said" || (b1 == "true" && b2 == "the")) {
