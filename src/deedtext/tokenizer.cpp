@@ -130,6 +130,22 @@ private:
         return at(j) == '\'' || (at(j) == '\xE2' && at(j + 1) == '\x80');
     }
 
+    /// A zero scanned for the letter O at the start of a short word: "0F",
+    /// "0N", "0R" ("POINT 0F BEGINNING"). Other words after a zero stay a
+    /// number and its unit ("0ft").
+    bool zeroForLetterO(size_t i) const
+    {
+        if (at(i) != '0' || (i > 0 && (isAlpha(at(i - 1)) || isDigit(at(i - 1)) || at(i - 1) == '.')))
+            return false;
+        size_t j = i + 1;
+        std::string rest;
+        while (isAlpha(at(j)) && rest.size() < 4)
+            rest += lower(at(j++));
+        if (isAlpha(at(j)) || isDigit(at(j)))
+            return false;
+        return rest == "f" || rest == "n" || rest == "r" || rest == "ne" || rest == "ver";
+    }
+
     /// A hyphen at @p i that ends a line, with a lower-case letter opening the next.
     bool hyphenatedBreak(size_t i) const
     {
@@ -152,6 +168,8 @@ private:
             return;
         }
         const char prev = m_i > 0 ? m_s[m_i - 1] : ' ';
+        if (zeroForLetterO(m_i))
+            return word();
         if (isDigit(c)
             || (isDigitLookalike(c) && c != 'o' && !isAlpha(prev) && (isDigit(at(m_i + 1)) || lettersAsNumber(m_i))))
             return number();
@@ -343,7 +361,7 @@ private:
                 ++m_i;
                 while (at(m_i) == '\r' || at(m_i) == '\n' || at(m_i) == ' ' || at(m_i) == '\t')
                     ++m_i;
-            } else if (c == '0' && !w.empty() && !isDigit(at(m_i + 1))
+            } else if (c == '0' && (!w.empty() || m_i == begin) && !isDigit(at(m_i + 1))
                        && !(w.size() == 1 && (w == "n" || w == "s" || w == "e" || w == "w"))) {
                 w += 'o'; // zero scanned for the letter O: "T0", "P0INT"
                 ++m_i;

@@ -77,7 +77,9 @@ TEST(Tokenizer, ShapesAndSpans)
         {"10 chams 5 hnks to the P.O.B. T0 Brown's", "10 chains 5 links to the pob to browns"},
         // A bearing scanned wholly in letters reads as numbers; Roman numerals and words stay words.
         {"N lO E 2l0 feet", "n 10 e 210 feet"}, {"N O° 3O' E", "n 0 deg 30 min e"},
-        {"Tract II of Ill. OIL", "tract ii of ill ~ oil"}};
+        {"Tract II of Ill. OIL", "tract ii of ill ~ oil"},
+        // A zero for the letter O opening a short word; a zero before a unit stays a number.
+        {"P0INT 0F BEGINNING 0N 0R 0ver", "point of beginning on or over"}, {"0ft 0.5f", "0 ft 0.5 f"}};
     for (const auto &c : cases)
         EXPECT_EQ(shape(c.text), c.shape) << c.text;
     // Spans point into the text.
