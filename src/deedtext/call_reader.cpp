@@ -1435,7 +1435,15 @@ std::vector<std::pair<std::size_t, std::size_t>> splitCourses(const std::vector<
             && (t[i + 1].kind == TokKind::Minute || (unitNamed(wordAt(i + 1)) && unitNamed(wordAt(i + 1))->known)))
             sawLength = true;
         size_t recordFrom = i;
-        if (sawLength && (w == "n" || w == "s" || w == "north" || w == "south")
+        // "East 100 feet; West 50 feet": a due course after a length, its "thence" left out.
+        const std::string_view before = i > begin ? wordAt(i - 1) : std::string_view();
+        const TokKind beforeKind = i > begin ? t[i - 1].kind : TokKind::Other;
+        const bool closesBearing = beforeKind == TokKind::Degree || beforeKind == TokKind::Minute
+                                   || beforeKind == TokKind::Second || beforeKind == TokKind::Number
+                                   || isDegreeWord(before) || isMinuteWord(before) || isSecondWord(before);
+        const bool dueCourse = (w == "east" || w == "west") && !closesBearing && before != "the" && before != "said"
+                               && before != "of" && before != "its";
+        if (sawLength && (w == "n" || w == "s" || w == "north" || w == "south" || dueCourse)
             && !recordBearingEnd(t, i, begin, end, recordFrom)) {
             size_t k = i + 1;
             while (k < end && (t[k].kind == TokKind::Period || t[k].kind == TokKind::Comma))
