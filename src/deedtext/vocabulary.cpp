@@ -41,7 +41,8 @@ constexpr UnitRow kUnits[] = {
     {"vara", {"vara", kVara}}, {"varas", {"vara", kVara}}, {"vrs", {"vara", kVara}}, {"vs", {"vara", kVara}},
     {"metre", {"metre", kMetre, true}}, {"metres", {"metre", kMetre, true}}, {"meter", {"metre", kMetre, true}},
     {"meters", {"metre", kMetre, true}}, {"m", {"metre", kMetre, true}}, {"mtrs", {"metre", kMetre, true}},
-    {"mts", {"metre", kMetre, true}},
+    {"mts", {"metre", kMetre, true}}, {"mtr", {"metre", kMetre, true}}, {"metro", {"metre", kMetre, true}},
+    {"metros", {"metre", kMetre, true}},
     {"yard", {"yard", kYard}}, {"yards", {"yard", kYard}}, {"yd", {"yard", kYard}}, {"yds", {"yard", kYard}},
     // Units the program has no factor for: read, named, and flagged.
     {"arpent", {"arpent", 0, false, false}}, {"arpents", {"arpent", 0, false, false}},

@@ -90,6 +90,18 @@ TEST(Tokenizer, ShapesAndSpans)
     EXPECT_TRUE(t[1].spaceBefore);
 }
 
+TEST(DeedText, MetresOnlyWhenEveryDistanceIsInMetres)
+{
+    const struct { const char *text; bool metric; } cases[] = {
+        {"Beginning; thence N 10 E 50.5 m; thence S 80 E 40 metres to the beginning.", true},
+        {"Beginning; thence N 10 E 50.5 metros; thence S 80 E 40 mtr to the beginning.", true}, // Spanish, abbreviated
+        {"Beginning; thence N 10 E 50.5 m; thence S 80 E 40 feet to the beginning.", false},   // mixed: feet
+        {"Beginning; thence N 10 E 50.5 chains; thence S 80 E 40 to the beginning.", false},
+    };
+    for (const auto &c : cases)
+        EXPECT_EQ(parseDeedText(c.text).metric, c.metric) << c.text;
+}
+
 void expectSpansInside(const DeedImport &d, size_t size)
 {
     for (const auto &r : d.rows)
