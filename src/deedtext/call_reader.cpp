@@ -875,6 +875,13 @@ char CallReader::sideWord(size_t from, size_t to) const
             return 'L';
         if ((w == "right" || w == "rt") && word(i + 1) != "of" && !isKind(i + 1, TokKind::Hyphen) && word(i + 1) != "way")
             return 'R';
+        // Turning clockwise, as seen on the map, is bending to the right.
+        if (w == "counterclockwise" || w == "anticlockwise"
+            || (w == "clockwise" && i >= from + 2 && isKind(i - 1, TokKind::Hyphen)
+                && (word(i - 2) == "counter" || word(i - 2) == "anti")))
+            return 'L';
+        if (w == "clockwise")
+            return 'R';
     }
     return 0;
 }
