@@ -663,14 +663,20 @@ std::optional<CallReader::Found> CallReader::directionAt(size_t i)
         f.end = i + 1;
         return f;
     }
-    // "Township 3 North", "T2N": a number right before the word names a township or range.
-    if (i > m_begin && isKind(i - 1, TokKind::Number) && (isNS(w) || isEW(w)))
+    // "Township 3 North", "T2N": a number right before the word names a township or range;
+    // but "1<TAB>N 45 E", "L1 N 45 E" number a list of calls.
+    const bool callNumber = i > m_begin && isKind(i - 1, TokKind::Number) && isNS(w)
+                            && isKind(skipPunct(i + 1), TokKind::Number) // a bearing's angle follows
+                            && (m_t[i - 1].lineStart
+                                || (i - 1 > m_begin && (word(i - 2) == "l" || word(i - 2) == "c")
+                                    && m_t[i - 2].span.end == m_t[i - 1].span.begin && m_t[i - 2].lineStart));
+    if (i > m_begin && isKind(i - 1, TokKind::Number) && (isNS(w) || isEW(w)) && !callNumber)
         return std::nullopt;
     if (isNS(w)) {
         const char ns = (w[0] == 'n') ? 'N' : 'S';
         const bool letter = w.size() == 1;
         const size_t p = prevWordIndex(i);
-        if (p != std::string::npos && (isKind(p, TokKind::Number)
+        if (p != std::string::npos && ((isKind(p, TokKind::Number) && !callNumber)
                                        || (!letter && (word(p) == "the" || word(p) == "said" || word(p) == "its"
                                                        || word(p) == "an" || word(p) == "a"))))
             return std::nullopt;
@@ -1432,6 +1438,9 @@ std::vector<std::pair<std::size_t, std::size_t>> splitCourses(const std::vector<
         if (w == "curve" || w == "arc" || w == "radius" || w == "from" || w == "whence" || w == "bears"
             || w == "brs" || w == "witness" || w == "bore")
             break; // a curve's bearings are its chord's; after a witness tree nothing is a course
+        if ((w == "r" || w == "cb" || w == "ch" || w == "delta") && i + 1 < end && t[i + 1].kind == TokKind::Equals)
+            break; // "R=50.00' L=78.54' CB=S 0°00' W": a curve given as a plat writes it
+
         if (t[i].kind == TokKind::LParen)
             ++depth;
         else if (t[i].kind == TokKind::RParen)
