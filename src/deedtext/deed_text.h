@@ -54,8 +54,9 @@ struct DeedImport {
     bool anyFlagged() const;
 };
 
-/// Reads @p text. Any bytes are accepted (invalid UTF-8 is passed over as
-/// unknown characters); time and memory are linear in the text's length.
+/// Reads @p text. Any bytes are accepted (a byte that is not UTF-8 is read as
+/// its Windows-1252 character, so a text saved by an older Windows editor keeps
+/// its degree signs and fractions); time and memory are linear in the text's length.
 DeedImport parseDeedText(std::string_view text);
 
 /// 1-based line and column (in characters) of byte offset @p offset in @p text.

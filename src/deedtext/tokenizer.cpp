@@ -16,8 +16,24 @@ char lower(char c) { return (c >= 'A' && c <= 'Z') ? char(c - 'A' + 'a') : c; }
 bool isDigitLookalike(char c) { return c == 'l' || c == 'I' || c == 'O' || c == 'o'; }
 char lookalikeDigit(char c) { return (c == 'l' || c == 'I') ? '1' : '0'; }
 
+/// A byte that is no part of UTF-8, read as Windows-1252 (the text of a deed
+/// saved by an older Windows editor: ° as B0, ½ as BD, ’ as 92), or
+/// 0xFFFFFFFF for a byte without meaning here.
+uint32_t windows1252(unsigned char b)
+{
+    switch (b) {
+    case 0x91: return 0x2018;
+    case 0x92: return 0x2019;
+    case 0x93: return 0x201C;
+    case 0x94: return 0x201D;
+    case 0x96: return 0x2013;
+    case 0x97: return 0x2014;
+    default: return b >= 0xA0 ? b : 0xFFFFFFFF;
+    }
+}
+
 /// Decodes one UTF-8 character at @p i; @p length receives its byte count (1
-/// for an invalid byte, which decodes as U+FFFD's neighbour 0xFFFFFFFF).
+/// for an invalid byte, which decodes as its Windows-1252 character).
 uint32_t decode(std::string_view s, size_t i, size_t &length)
 {
     const auto b0 = static_cast<unsigned char>(s[i]);
@@ -29,13 +45,13 @@ uint32_t decode(std::string_view s, size_t i, size_t &length)
     if ((b0 & 0xE0) == 0xC0) { extra = 1; cp = b0 & 0x1F; }
     else if ((b0 & 0xF0) == 0xE0) { extra = 2; cp = b0 & 0x0F; }
     else if ((b0 & 0xF8) == 0xF0) { extra = 3; cp = b0 & 0x07; }
-    else return 0xFFFFFFFF;
+    else return windows1252(b0);
     if (i + extra >= s.size())
-        return 0xFFFFFFFF;
+        return windows1252(b0);
     for (int k = 1; k <= extra; ++k) {
         const auto b = static_cast<unsigned char>(s[i + k]);
         if ((b & 0xC0) != 0x80)
-            return 0xFFFFFFFF;
+            return windows1252(b0);
         cp = (cp << 6) | (b & 0x3F);
     }
     length = size_t(extra) + 1;

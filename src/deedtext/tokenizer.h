@@ -45,8 +45,9 @@ struct Token {
     bool isWord(std::string_view w) const { return kind == TokKind::Word && word == w; }
 };
 
-/// Splits @p text into tokens. Never fails: bytes that are not valid UTF-8 and
-/// characters without meaning here become Other tokens.
+/// Splits @p text into tokens. Never fails: a byte that is not valid UTF-8 is
+/// read as its Windows-1252 character; characters without meaning here become
+/// Other tokens.
 std::vector<Token> tokenize(std::string_view text);
 
 } // namespace quilmar::deedtext

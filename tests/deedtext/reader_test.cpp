@@ -79,7 +79,9 @@ TEST(Tokenizer, ShapesAndSpans)
         {"N lO E 2l0 feet", "n 10 e 210 feet"}, {"N O° 3O' E", "n 0 deg 30 min e"},
         {"Tract II of Ill. OIL", "tract ii of ill ~ oil"},
         // A zero for the letter O opening a short word; a zero before a unit stays a number.
-        {"P0INT 0F BEGINNING 0N 0R 0ver", "point of beginning on or over"}, {"0ft 0.5f", "0 ft 0.5 f"}};
+        {"P0INT 0F BEGINNING 0N 0R 0ver", "point of beginning on or over"}, {"0ft 0.5f", "0 ft 0.5 f"},
+        // Text saved as Windows-1252: the degree sign, the quote marks and the fractions are single bytes.
+        {"N 45\xb0" "30\x92 12\xbd E \x93x\x94", "n 45 deg 30 min 12.5 e sec x sec"}};
     for (const auto &c : cases)
         EXPECT_EQ(shape(c.text), c.shape) << c.text;
     // Spans point into the text.
