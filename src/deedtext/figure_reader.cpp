@@ -227,6 +227,7 @@ DeedImport parseDeedText(std::string_view text)
     context.azimuthFromSouth = fromSouth;
     context.azimuthDoc = azimuthDoc;
     std::optional<Clause> pendingException;
+    bool embeddedTies = false;
 
     // A close followed by more "thence" calls was the end of a commencement
     // ("Beginning at the section corner; thence N 100 feet to the point of
@@ -295,6 +296,10 @@ DeedImport parseDeedText(std::string_view text)
             mode = Mode::Body;
             continue;
         case ClauseKind::Commence:
+            // "BEGINNING at a point reached by commencing at ..., thence ...,
+            // thence ...; thence ...": the tie calls are the beginning clause's
+            // own, and end with its sentence part.
+            embeddedTies = mode == Mode::Body && b.figureRows == 0 && c.begin > 0 && t[c.begin - 1].isWord("by");
             newFigure();
             pendingException.reset();
             mode = Mode::Commence;
@@ -383,6 +388,18 @@ DeedImport parseDeedText(std::string_view text)
                         lastClose = b.rows.size() - 1;
                 }
             }
+        }
+        // Only where the ties run on with commas or "and" and a semicolon ends
+        // them; ties cut by semicolons from the first end at their point of beginning.
+        if (mode == Mode::Commence && embeddedTies && tieRows > 0
+            && (t[c.end - 1].kind == TokKind::Semicolon || t[c.end - 1].kind == TokKind::Period)) {
+            if (tieRows > 1) {
+                addTag('B', spanOf(c));
+                ++b.figureRows;
+                b.tagInFigure = true;
+                mode = Mode::Body;
+            }
+            embeddedTies = false;
         }
     }
     flagException();
