@@ -236,7 +236,16 @@ DeedImport parseDeedText(std::string_view text)
     auto spanOf = [&](const Clause &c) {
         return Span{t[c.begin].span.begin, t[c.end - 1].span.end};
     };
+    // "to the true point of beginning" in a figure without a commencement
+    // ends tie calls when courses follow, and closes the figure when none do.
+    std::optional<size_t> trueBeginning;
+    auto closeAtTrueBeginning = [&] {
+        if (trueBeginning && *trueBeginning + 1 == b.rows.size())
+            b.rows[*trueBeginning].tag = 'C';
+        trueBeginning.reset();
+    };
     auto newFigure = [&] {
+        closeAtTrueBeginning();
         lastClose.reset();
         if (b.figureRows > 0)
             b.needNew = true;
@@ -372,6 +381,8 @@ DeedImport parseDeedText(std::string_view text)
                         addTag('N', call.span);
                         b.needNew = false;
                     }
+                    if (mode == Mode::Body)
+                        trueBeginning = b.rows.size();
                     addTag('B', call.span);
                     ++b.figureRows;
                     b.tagInFigure = true;
@@ -402,6 +413,7 @@ DeedImport parseDeedText(std::string_view text)
             embeddedTies = false;
         }
     }
+    closeAtTrueBeginning();
     flagException();
 
     // Units: a description wholly in metres stays in metres; a number given
