@@ -454,7 +454,12 @@ DeedImport parseDeedText(std::string_view text)
             if (c.direction) {
                 const Direction &d = *c.direction;
                 row.cells[0] = std::string(1, d.ns);
-                if (d.hasAngle) {
+                // A bearing of 0 or 90 degrees is a due course, written as one
+                // ("N 0° E" as N alone, "S 90° W" as W alone).
+                const bool whole = d.hasAngle && d.minutes == 0 && d.seconds == 0;
+                if (whole && d.degrees == 90)
+                    row.cells[0] = std::string(1, d.ew);
+                else if (d.hasAngle && !(whole && d.degrees == 0)) {
                     row.cells[1] = std::to_string(d.degrees);
                     row.cells[2] = std::to_string(d.minutes);
                     row.cells[3] = formatNumber(d.seconds);
