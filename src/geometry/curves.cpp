@@ -9,9 +9,11 @@ namespace quilmar {
 
 float chordFromArc(float radius, float arc)
 {
-    const float halfAngle = sng(fdiv(arc / 2.0, 2.0 * radius * kPi) * 360.0);
-    const float x = sng(std::cos(halfAngle * kPi / 180.0) * radius);
-    return sng(2.0 * fsqrt(double(radius) * radius - double(x) * x));
+    // Only the inputs and the chord are singles: a single x would lose the
+    // difference R^2 - x^2 of a flat curve (arc 50 on radius 5730 gave 50.07).
+    const double halfAngle = fdiv(arc / 2.0, 2.0 * radius * kPi) * 360.0;
+    const double x = std::cos(halfAngle * kPi / 180.0) * radius;
+    return sng(2.0 * fsqrt(double(radius) * radius - x * x));
 }
 
 double arcFromChord(float radius, float chord)

@@ -35,7 +35,7 @@ TEST(CliReport, DemoSamples)
     // Samples 2, 3 and 5 are checked for their gap and perimeter lines. The
     // square feet carry the single-precision area sum: about seven digits.
     const char *const expected[] = {
-        "\nGap = 742.32.  N 7° 28' 42'' E (17.92%)\nPerimeter = 4,142.32\n23.81 acres [1,037,108.08 sq ft]\n"
+        "\nGap = 742.32.  N 7° 28' 42'' E (17.92%)\nPerimeter = 4,142.32\n23.81 acres [1,037,108.21 sq ft]\n"
             "1037108 Square Meters [103.71 Ha]\n",
         "\nGap = 222.82.  N 7° 7' 20'' W (6.13%)\nPerimeter = 3,632.21\n19.38 acres [844,280.94 sq ft]\n"
             "844281 Square Meters [84.43 Ha]\n",

@@ -117,11 +117,15 @@ TEST(CourseConversion, CurveCompletion)
         {"N", "", "", "", "", "", "200", "100", "R", ""}, // half circle: radius widened to 100.01, arc 311.36
         {"N", "", "", "", "", "", "120", "50", "L", ""},  // radius too small
         {"N", "", "", "", "", "50", "40", "100", "L", ""}, // both given: nothing computed
+        {"N", "", "", "", "", "50", "", "5730", "L", ""},  // a flat curve: chord 49.99984, never longer than its arc
+        {"N", "", "", "", "", "0.225", "", "466", "R", ""}, // a short arc on a long radius keeps its chord
     }), &messages);
     EXPECT_NEAR(legs[0].chord, 95.8851, 1e-3);
     EXPECT_NEAR(legs[1].distance, 311.36, 0.01);
     EXPECT_DOUBLE_EQ(legs[2].distance, 0.0);
     EXPECT_EQ(std::pair(legs[3].chord, legs[3].distance), std::pair(40.0, 50.0));
+    EXPECT_NEAR(legs[4].chord, 49.99984, 1e-4);
+    EXPECT_NEAR(legs[5].chord, 0.225, 1e-5);
     EXPECT_EQ(messages, std::vector<std::string>{"Error in calc of gap"});
 }
 

@@ -127,6 +127,8 @@ TEST_F(Grid, RowCheckMessagesIconsAndFocus)
         {{"N", "1", "", "", "E", "", "201", "100", "R", ""}, false, " Chord is too long for given radius", Icon::Exclamation, FieldRef{4, ColChord}},
         // arc 100 on radius 100: chord 95.885; within 0.1 % passes unchanged
         {{"N", "1", "", "", "E", "100", "95.9", "100", "R", ""}, true, "", Icon::None, std::nullopt},
+        // arc 50 on radius 5730: the true chord 49.9998 is no error to correct
+        {{"N", "1", "", "", "E", "50", "49.9998", "5730", "R", ""}, true, "", Icon::None, std::nullopt},
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(std::string(c.row[0]) + "|" + c.row[1] + "|" + c.row[2] + "|" + c.row[3] + "|" + c.row[5] + "|" + c.row[6] + "|" + c.row[7]);
