@@ -1,5 +1,6 @@
 #include "number_read.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdint>
 #include <string>
@@ -72,6 +73,45 @@ bool exactSmallNumber(std::string_view t, double &value)
     return true;
 }
 
+// The decimal order of magnitude of a numeric prefix with a lower-case "e"
+// exponent: 2 for "123", -3 for "0.00123", 398 for "1e400"; kept within +-2^40
+// so that absurd exponents do not wrap. A text without a non-zero digit gives 0.
+long long decimalOrder(std::string_view s)
+{
+    constexpr long long kLimit = 1LL << 40;
+    size_t i = (!s.empty() && (s[0] == '+' || s[0] == '-')) ? 1 : 0;
+    long long order = 0;
+    bool found = false;
+    long long position = 0; // digits before the point (positive) or zeros after it (negative)
+    for (bool afterPoint = false; i < s.size() && s[i] != 'e'; ++i) {
+        if (s[i] == '.') {
+            afterPoint = true;
+            continue;
+        }
+        if (!found && s[i] != '0') {
+            found = true;
+            order = afterPoint ? position - 1 : 0;
+        } else if (found && !afterPoint) {
+            ++order;
+        }
+        if (afterPoint && !found)
+            --position;
+    }
+    if (!found)
+        return 0;
+    if (i < s.size()) {
+        long long exponent = 0;
+        size_t j = i + 1;
+        const bool negative = j < s.size() && s[j] == '-';
+        if (j < s.size() && (s[j] == '+' || s[j] == '-'))
+            ++j;
+        for (; j < s.size() && isDigit(s[j]); ++j)
+            exponent = std::min(kLimit, exponent * 10 + (s[j] - '0'));
+        order += negative ? -exponent : exponent;
+    }
+    return order;
+}
+
 } // namespace
 
 std::string_view trimBlanks(std::string_view text)
@@ -99,14 +139,13 @@ double leadingNumber(std::string_view text)
     if (s[0] == '+')
         start = 1;
     for (char &c : s)
-        if (c == 'd' || c == 'D')
+        if (c == 'd' || c == 'D' || c == 'E')
             c = 'e';
     double v = 0.0;
     auto [ptr, ec] = std::from_chars(s.data() + start, s.data() + s.size(), v);
     if (ec == std::errc::result_out_of_range) {
         // Underflow reads as 0; only a too-large magnitude is a fault.
-        size_t e = s.find('e');
-        if (e != std::string::npos && s.find('-', e) == e + 1)
+        if (decimalOrder(s) < 0)
             return 0.0;
         throw VbError::overflow();
     }

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <limits>
 #include <stdexcept>
+#include <string>
 
 #include <gtest/gtest.h>
 
@@ -63,10 +64,12 @@ TEST(GeneralNumber, ShortestFifteenDigitText)
 
 TEST(NumberRead, LeadingNumberRule)
 {
-    const struct { const char *text; double value; } cases[] = {
+    const struct { std::string text; double value; } cases[] = {
         {"", 0}, {"abc", 0}, {"12.5", 12.5}, {"  12.5", 12.5}, {"12.5ft", 12.5}, {"-3", -3}, {"+4", 4},
         {".5", 0.5}, {"5.", 5}, {"1e3", 1000}, {"1D2", 100}, {"2e", 2}, {"1,5", 1}, {"-", 0}, {".", 0},
-        {"12 34", 12}, {"0x10", 0}, {"1e-400", 0}};
+        {"12 34", 12}, {"0x10", 0}, {"1e-400", 0},
+        {"1E-400", 0}, {"-2.5D-330ft", 0},     // too small reads as 0 whatever the exponent letter, not Overflow
+        {"0." + std::string(400, '0') + "1", 0}}; // too small without any exponent
     for (const auto &c : cases)
         EXPECT_DOUBLE_EQ(leadingNumber(c.text), c.value) << '"' << c.text << '"';
     try {
