@@ -19,7 +19,7 @@ float FitWalk::extentY() const
     return e == 0.0f ? 1.0f : e;
 }
 
-void walkForFit(const LegTable &legs, TraverseState &state, FitWalk &walk)
+void walkForFit(const LegTable &legs, TraverseState &state, FitWalk &walk, const std::function<void()> &afterRow)
 {
     PointF &run = walk.run;
     for (const Leg &leg : legs) {
@@ -44,6 +44,8 @@ void walkForFit(const LegTable &legs, TraverseState &state, FitWalk &walk)
         walk.maxX = std::max(walk.maxX, run.x);
         walk.maxY = std::max(walk.maxY, run.y);
         walk.rowsDone = true;
+        if (afterRow)
+            afterRow();
         if (tag == Tag::Begin) {
             state.pob = run;
         } else if (tag == Tag::Origin) {

@@ -3,6 +3,8 @@
 // zoom window's): it follows the pen as the drawing will, without drawing, and
 // keeps the extents it reaches. A curve steps along its chord only.
 
+#include <functional>
+
 #include "leg_table.h"
 #include "traverse_state.h"
 #include "vb_math.h"
@@ -26,8 +28,12 @@ struct FitWalk {
 /// origin of @p state (ground units; a later walk resets them): "B" sets the
 /// beginning, "O" both, "C" returns the pen to the beginning and "N" to the
 /// origin.
+/// @param afterRow  when given, run after each row's point has widened the
+///                  extents and before the row's tag; a fault it throws ends the
+///                  walk there, as a step's fault does
 /// @throws VbError Overflow for a step beyond single range, with @p walk as reached
-void walkForFit(const LegTable &legs, TraverseState &state, FitWalk &walk);
+void walkForFit(const LegTable &legs, TraverseState &state, FitWalk &walk,
+                const std::function<void()> &afterRow = {});
 
 /// After a fault: runs @p fit on the extents reached, when the walk reached
 /// any row, so the factor is that of the rows before the fault; a fault of the

@@ -44,8 +44,9 @@ FitResult rescaling(const LegTable &legs, const ScaleChoice &choice, float width
     fit.scaleFactor = previousScaleFactor;
     FitWalk walk;
     float extX = 1, extY = 1;
-    // The fit of the extents reached so far; the walk only widens them, so
-    // fitting once after the last row (or at a fault) equals fitting every row.
+    // The fit of the extents reached so far, made at every row: a row whose
+    // extent is too thin to divide by ends the fit there, even when later rows
+    // widen it, and the factor stays that of the rows before it.
     auto fitExtents = [&] {
         extX = walk.extentX();
         extY = walk.extentY();
@@ -53,8 +54,9 @@ FitResult rescaling(const LegTable &legs, const ScaleChoice &choice, float width
         fit.scaleFactor = fx < fy ? fx : fy;
     };
     try {
-        walkForFit(legs, state, walk);
-        fitExtents();
+        walkForFit(legs, state, walk, fitExtents);
+        if (!walk.rowsDone)
+            fitExtents();
         fit.scaleFactor = sng(double(fit.scaleFactor) * levelFactor(choice.scaleText));
         const float sf = fit.scaleFactor;
         if (printing) {
@@ -79,7 +81,6 @@ FitResult rescaling(const LegTable &legs, const ScaleChoice &choice, float width
             fit.scaleTop = sng(std::floor(double(sf) * walk.minY - offY));
         }
     } catch (const VbError &) {
-        fitWhatWasReached(walk, fitExtents);
         fit.failed = true;
         return fit;
     }

@@ -98,9 +98,18 @@ TEST(Rescaling, AutoScaleCaption)
 
 TEST(Rescaling, AFaultKeepsTheFactorReached)
 {
-    const FitResult f = fit({course(0.0f, 100), course(0.0f, 1e39)}, "Standard", false, Units::Feet, nullptr, 5.0f);
-    EXPECT_TRUE(f.failed);
-    EXPECT_FLOAT_EQ(f.scaleFactor, 72.0f); // the fit of the first course, before the level factor
+    // Each row's point is fitted as it is reached: a fault ends the fit at that
+    // row, with the factor of the rows before it (before the level factor).
+    const struct { LegTable legs; float factor; } cases[] = {
+        {{course(0.0f, 100), course(0.0f, 1e39)}, 72.0f},   // the step beyond single range
+        {{course(0.0f, 1e-40), course(0.0f, 100)}, 5.0f},   // the first row's extent too thin to divide by
+        {{course(0.0f, 100), course(90.0f, 1e-40)}, 72.0f}, // the second row's
+    };
+    for (const auto &c : cases) {
+        const FitResult f = fit(c.legs, "Standard", false, Units::Feet, nullptr, 5.0f);
+        EXPECT_TRUE(f.failed) << c.legs.back().distance;
+        EXPECT_FLOAT_EQ(f.scaleFactor, c.factor) << c.legs.back().distance;
+    }
 }
 
 TEST(ZoomFit, FitsNinetyFivePercentAndCentres)
