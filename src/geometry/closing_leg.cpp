@@ -30,7 +30,7 @@ double chordDirection(double dx, double dy)
     return dx > 0.0 ? b - 90.0 : -90.0 - b;
 }
 
-void closeStraight(int label, const WalkOptions &options, TraverseState &state, Figure &figure)
+void closeStraight(int label, int row, const WalkOptions &options, TraverseState &state, Figure &figure)
 {
     const PointF start = state.closingStart;
     const float dx = sng(double(state.pob.x) - state.pen.x);
@@ -44,14 +44,14 @@ void closeStraight(int label, const WalkOptions &options, TraverseState &state, 
         const double gx = double(state.pob.x) - start.x, gy = double(state.pob.y) - start.y;
         state.perimeterSum = dbl(state.perimeterSum + std::sqrt(gx * gx + gy * gy));
     }
-    addReferenceLabel(figure, options, state.canvas, label, dx, dy);
+    addReferenceLabel(figure, options, state.canvas, label, row, dx, dy);
     figure.items.push_back({FigLine{state.canvas, state.pob}, Palette::Blue, legTarget(options)});
     state.pen = state.pob;
     state.canvas = state.pob;
 }
 
 // The message of a curved close that failed, or nullptr when it succeeded.
-const char *closeCurved(int label, const WalkOptions &options, TraverseState &state, Figure &figure)
+const char *closeCurved(int label, int row, const WalkOptions &options, TraverseState &state, Figure &figure)
 {
     const double dx = double(state.pob.x) - state.pen.x;
     const double dy = double(state.pob.y) - state.pen.y;
@@ -67,7 +67,7 @@ const char *closeCurved(int label, const WalkOptions &options, TraverseState &st
     PointF pen = state.pen;
     if (traceCurve(right, pen, direction, state.closingRadius, chord, sink) == CurveOutcome::Fault)
         return right ? "Error int curve" : "Error in curve"; // deliberate: the right-hand text has always been so
-    addReferenceLabel(figure, options, state.canvas, label, chord * direction.cosine, chord * direction.sine);
+    addReferenceLabel(figure, options, state.canvas, label, row, chord * direction.cosine, chord * direction.sine);
     figure.items.insert(figure.items.end(), arc.items.begin(), arc.items.end());
     state.pen = pen;
     state.canvas = pen;
@@ -77,15 +77,15 @@ const char *closeCurved(int label, const WalkOptions &options, TraverseState &st
 
 } // namespace
 
-void closingLeg(int label, const WalkOptions &options, TraverseState &state, Figure &figure)
+void closingLeg(int label, int row, const WalkOptions &options, TraverseState &state, Figure &figure)
 {
     state.closingStart = state.pen;
     const char *message = nullptr;
     try {
         if (state.closingRadius == 0.0f)
-            closeStraight(label, options, state, figure);
+            closeStraight(label, row, options, state, figure);
         else
-            message = closeCurved(label, options, state, figure);
+            message = closeCurved(label, row, options, state, figure);
     } catch (const VbError &) {
         message = "Error in closing leg.  Review radius, etc.";
     }

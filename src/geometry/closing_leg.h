@@ -14,6 +14,6 @@ namespace quilmar {
 /// beginning and the closing flag is cleared. On failure nothing is drawn but
 /// "CANNOT CLOSE." and one of "Error in curve", "Error int curve" or
 /// "Error in closing leg.  Review radius, etc."; the walk goes on.
-void closingLeg(int label, const WalkOptions &options, TraverseState &state, Figure &figure);
+void closingLeg(int label, int row, const WalkOptions &options, TraverseState &state, Figure &figure);
 
 } // namespace quilmar

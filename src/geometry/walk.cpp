@@ -20,7 +20,7 @@ public:
     }
 
     // Walks one row; false when a curve could not be traced and the walk stops.
-    bool row(const Leg &leg)
+    bool row(const Leg &leg, int index)
     {
         const float sf = m_options.scaleFactor;
         float r = sng(double(sf) * leg.radius);
@@ -34,18 +34,18 @@ public:
             m_state.closingFlag = true;
             m_state.closingRadius = r;
             m_state.closingSide = leg.side;
-            closingLeg(leg.course, m_options, m_state, m_figure);
+            closingLeg(leg.course, index, m_options, m_state, m_figure);
             return true;
         }
 
         if (r == 0.0f) {
-            straight(leg, d);
+            straight(leg, index, d);
         } else {
             const double cx = leg.radiansCosine * c, cy = leg.radiansSine * c;
             if (m_state.areaMode)
                 addShoelaceStep(m_state.areaPoint, m_state.areaSum, sng(cx), sng(cy));
             if (m_options.printing)
-                addReferenceLabel(m_figure, m_options, m_state.canvas, leg.course, cx, cy);
+                addReferenceLabel(m_figure, m_options, m_state.canvas, leg.course, index, cx, cy);
             CurveSink sink{&m_figure, legTarget(), m_state.areaMode, m_state.perimeterMode, &m_state.areaSum,
                            &m_state.perimeterSum};
             // The curve routines take the direction in radians as a single.
@@ -61,7 +61,7 @@ public:
 private:
     Target legTarget() const { return m_options.printing ? Target::Both : Target::Screen; }
 
-    void straight(const Leg &leg, float d)
+    void straight(const Leg &leg, int index, float d)
     {
         float dx = sng(leg.radiansCosine * d);
         float dy = sng(leg.radiansSine * d);
@@ -70,7 +70,7 @@ private:
         if (m_state.perimeterMode)
             m_state.perimeterSum = dbl(m_state.perimeterSum + d);
         if (m_options.printing) {
-            addReferenceLabel(m_figure, m_options, m_state.canvas, leg.course, dx, dy);
+            addReferenceLabel(m_figure, m_options, m_state.canvas, leg.course, index, dx, dy);
             if (m_options.balanceGap) {
                 // The misclosure is spread equally over the straight legs.
                 ++m_legCount;
@@ -129,8 +129,8 @@ WalkStop walkCourses(const LegTable &legs, const WalkOptions &options, TraverseS
     state.pob = {};
     Walker walker(options, state, figure);
     try {
-        for (const Leg &leg : legs)
-            if (!walker.row(leg))
+        for (size_t i = 0; i < legs.size(); ++i)
+            if (!walker.row(legs[i], int(i)))
                 return WalkStop::CurveFault;
     } catch (const VbError &) {
         return WalkStop::DrawFault;

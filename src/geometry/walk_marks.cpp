@@ -4,14 +4,15 @@
 
 namespace quilmar {
 
-void addReferenceLabel(Figure &figure, const WalkOptions &options, PointF at, int label, double dx, double dy)
+void addReferenceLabel(Figure &figure, const WalkOptions &options, PointF at, int label, int row, double dx,
+                       double dy)
 {
     if (!options.printing || !options.referencePoints)
         return;
     if (!(std::fabs(dx) > 240.0 || std::fabs(dy) > 240.0))
         return;
     const std::string text = std::to_string(label);
-    const float x = at.x - (100.0f * float(text.size()) + 80.0f);
+    const float x = at.x - (100.0f * float(std::to_string(row).size()) + 80.0f);
     figure.items.push_back({FigText{{x, at.y}, 0, text + " "}, Palette::Blue, Target::Printer});
 }
 

@@ -291,3 +291,27 @@ TEST(Walk, AreaSignFollowsTheDirectionOfTravel)
     EXPECT_NEAR(square("N", "E", "S", "W"), 10000.0f, 0.01);  // clockwise
     EXPECT_NEAR(square("N", "W", "S", "E"), -10000.0f, 0.01); // counter-clockwise
 }
+
+TEST(Walk, PrintedCourseLabelsStandLeftByTheDigitsOfTheRowNumber)
+{
+    // Ten legs east of 1000 twips: row 9 carries label 10, yet stands 100 twips
+    // per digit of its row number (one) plus 80 left of its start. After a
+    // bare beginning, row 10 carries label 10 and stands by its two digits.
+    const struct { bool bareBeginning; float x; } cases[] = {{false, 9000.0f - 180.0f}, {true, 9000.0f - 280.0f}};
+    for (const auto &c : cases) {
+        std::vector<Row> rows;
+        if (c.bareBeginning)
+            rows.push_back({"", "", "", "", "", "", "", "", "", "B"});
+        for (int i = 0; i < 10; ++i)
+            rows.push_back({"E", "", "", "", "", "1000", "", "", "", ""});
+        Walked w;
+        WalkOptions options;
+        options.printing = options.referencePoints = true;
+        CourseTable table = makeTable(rows);
+        walkCourses(convertCourses(table, [](const std::string &) {}), options, w.state, w.figure);
+        const std::vector<FigText> texts = itemsOf<FigText>(w.figure);
+        ASSERT_EQ(texts.size(), 10u);
+        EXPECT_EQ(texts.back().text, "10 ");
+        EXPECT_FLOAT_EQ(texts.back().at.x, c.x) << c.bareBeginning;
+    }
+}
