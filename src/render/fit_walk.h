@@ -35,17 +35,4 @@ struct FitWalk {
 void walkForFit(const LegTable &legs, TraverseState &state, FitWalk &walk,
                 const std::function<void()> &afterRow = {});
 
-/// After a fault: runs @p fit on the extents reached, when the walk reached
-/// any row, so the factor is that of the rows before the fault; a fault of the
-/// fit itself leaves what it had set.
-template <class Fit> void fitWhatWasReached(const FitWalk &walk, Fit &&fit)
-{
-    if (!walk.rowsDone)
-        return;
-    try {
-        fit();
-    } catch (const VbError &) {
-    }
-}
-
 } // namespace quilmar

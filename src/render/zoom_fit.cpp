@@ -22,11 +22,12 @@ ZoomFit zoomFit(const LegTable &legs, float width, float height, TraverseState &
         fit.scaleTop = sng(std::floor(sf * walk.minY - (height - sf * extY) / 2.0));
     };
     try {
-        // The main fit's walk: the same extents.
-        walkForFit(legs, state, walk);
-        fitExtents();
+        // The main fit's walk, fitted at every row as the main fit is: a row
+        // too thin to divide by ends it with the fit of the rows before.
+        walkForFit(legs, state, walk, fitExtents);
+        if (!walk.rowsDone)
+            fitExtents();
     } catch (const VbError &) {
-        fitWhatWasReached(walk, fitExtents);
         fit.failed = true;
     }
     return fit;

@@ -127,6 +127,8 @@ TEST(ZoomFit, FitsNinetyFivePercentAndCentres)
     EXPECT_FLOAT_EQ(magnifiedScaleFactor(fit, 2.0), 380.0f);
     // A single point fits the picture's side.
     EXPECT_NEAR(zoomFit({}, 23040.0f, 23040.0f, state).scaleFactor, 23040 * 0.95, 1e-2);
+    // Fitted at every row, as the main fit: a first row too thin to divide by faults.
+    EXPECT_TRUE(zoomFit({course(0.0f, 1e-40), course(0.0f, 100)}, 20000.0f, 20000.0f, state).failed);
 }
 
 TEST(ZoomFit, Magnifications)
