@@ -236,7 +236,8 @@ bool GridRules::test_all(int row, GridOutcome &out)
     auto num = [&](int column) { return number({row, column}); };
     auto trimmed = [&](int column) { return std::string(trimBlanks(text({row, column}))); };
     const std::string ns = trimmed(ColNS);
-    const bool incremental = ns == "+" || ns == "-";
+    // Only the emptiness checks trim the code; " +" is no incremental angle, as on leaving the degrees.
+    const bool incremental = text({row, ColNS}) == "+" || text({row, ColNS}) == "-";
 
     const double angle = num(ColDeg) + num(ColMin) / 60.0 + num(ColSec) / 3600.0;
     if (angle > 90.0) {

@@ -112,6 +112,9 @@ TEST_F(Grid, RowCheckMessagesIconsAndFocus)
         {{"", "45", "", "", "E", "10", "", "", "", ""}, false, "Please specify the North-South direction.", Icon::Exclamation, FieldRef{4, ColNS}},
         {{"N", "45", "", "", "", "10", "", "", "", ""}, false, "Please specify the East-West direction.", Icon::Exclamation, FieldRef{4, ColEW}},
         {{"-", "45", "", "", "", "10", "", "", "", ""}, true, "", Icon::None, std::nullopt},
+        // a code read from a file with a blank before the sign is no incremental angle
+        {{" +", "95", "", "", "", "10", "", "", "", ""}, false, "Invalid value in angle fields.", Icon::Exclamation, FieldRef{4, ColDeg}},
+        {{" -", "45", "", "", "", "10", "", "", "", ""}, false, "Please specify the East-West direction.", Icon::Exclamation, FieldRef{4, ColEW}},
         {{"N", "1", "59.999", "", "E", "10", "", "", "", ""}, true, "", Icon::None, std::nullopt},
         {{"N", "1", "59.9995", "", "E", "10", "", "", "", ""}, false, "Invalid value in angle fields.", Icon::None, std::nullopt},
         {{"N", "1", "", "59.99995", "E", "10", "", "", "", ""}, false, "Invalid value in angle fields.", Icon::None, std::nullopt},
