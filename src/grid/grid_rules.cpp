@@ -271,7 +271,8 @@ bool GridRules::test_all(int row, GridOutcome &out)
             fail("Left/Right direction of curve must be specified.", FieldRef{row, ColLR}, out);
             return false;
         }
-        if (distance == 0.0 && chord == 0.0 && trimmed(ColTag) != "C") {
+        // The tag as it stands: " C" is no close here, unlike in the walk.
+        if (distance == 0.0 && chord == 0.0 && text({row, ColTag}) != "C") {
             fail("For curves either the distance or the chord must be specified.", FieldRef{row, ColDistance}, out);
             return false;
         }

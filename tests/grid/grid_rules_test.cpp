@@ -122,6 +122,7 @@ TEST_F(Grid, RowCheckMessagesIconsAndFocus)
         {{"N", "1", "", "", "E", "10", "", "50", "", ""}, false, "Left/Right direction of curve must be specified.", Icon::Exclamation, FieldRef{4, ColLR}},
         {{"N", "1", "", "", "E", "", "", "50", "R", ""}, false, "For curves either the distance or the chord must be specified.", Icon::Exclamation, FieldRef{4, ColDistance}},
         {{"", "", "", "", "", "", "", "50", "R", "C"}, true, "", Icon::None, std::nullopt},
+        {{"", "", "", "", "", "", "", "50", "R", " C"}, false, "For curves either the distance or the chord must be specified.", Icon::Exclamation, FieldRef{4, ColDistance}},
         {{"", "", "", "", "", "", "20", "50", "R", ""}, false, "If you use chords you must specify the angle.", Icon::Exclamation, FieldRef{4, ColNS}},
         // a blank N/S code counts as none, but the focus goes to the degrees
         {{" ", "", "", "", "", "", "20", "50", "R", ""}, false, "If you use chords you must specify the angle.", Icon::Exclamation, FieldRef{4, ColDeg}},
