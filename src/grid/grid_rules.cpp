@@ -26,9 +26,12 @@ char upper(char32_t key) { return key < 128 ? char(std::toupper(int(key))) : '\0
 
 // The code columns take one letter of their set as typed, and any other key
 // toggles between the two main letters (the help texts say "Press any key").
-std::string codeKey(char32_t key, const std::string &current, std::string_view accepted, char first, char second)
+// The N/S column takes its letters in either case; E/W and L/R in capitals
+// only, so a small letter there toggles like any other key.
+std::string codeKey(char32_t key, const std::string &current, std::string_view accepted, char first, char second,
+                    bool eitherCase)
 {
-    const char c = upper(key);
+    const char c = eitherCase ? upper(key) : (key < 128 ? char(key) : '\0');
     if (c != '\0' && accepted.find(c) != std::string_view::npos)
         return std::string(1, c);
     if (current == std::string(1, first))
@@ -111,13 +114,13 @@ KeyOutcome GridRules::keyPress(FieldRef f, char32_t key)
     const std::string &current = text(f);
     switch (f.column) {
     case ColNS:
-        out.newText = codeKey(key, current, "NSEW+-", 'S', 'N');
+        out.newText = codeKey(key, current, "NSEW+-", 'S', 'N', true);
         break;
     case ColEW:
-        out.newText = codeKey(key, current, "EW", 'E', 'W');
+        out.newText = codeKey(key, current, "EW", 'E', 'W', false);
         break;
     case ColLR:
-        out.newText = codeKey(key, current, "LR", 'R', 'L');
+        out.newText = codeKey(key, current, "LR", 'R', 'L', false);
         break;
     case ColTag: {
         // Typing a tag skips the new-line rule of the tag menu, deliberately.

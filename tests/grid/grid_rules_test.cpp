@@ -38,8 +38,10 @@ TEST_F(Grid, KeystrokeFiltersAndToggles)
     const Key cases[] = {
         {ColNS, "", 'x', "N", true, false},   {ColNS, "N", 'x', "S", true, false},  {ColNS, "S", 'x', "N", true, false},
         {ColNS, "S", 'w', "W", true, false},  {ColNS, "", '+', "+", true, false},   {ColNS, "N", 8, "S", true, false},
-        {ColEW, "", 'q', "E", true, false},   {ColEW, "E", 'q', "W", true, false},  {ColEW, "", 'w', "W", true, false},
-        {ColLR, "", 'q', "R", true, false},   {ColLR, "R", 'q', "L", true, false},  {ColLR, "R", 'l', "L", true, false},
+        {ColEW, "", 'q', "E", true, false},   {ColEW, "E", 'q', "W", true, false},  {ColEW, "", 'W', "W", true, false},
+        {ColLR, "", 'q', "R", true, false},   {ColLR, "R", 'q', "L", true, false},  {ColLR, "R", 'L', "L", true, false},
+        // E/W and L/R take their letters in capitals only: a small letter toggles.
+        {ColEW, "", 'w', "E", true, false},   {ColEW, "W", 'w', "E", true, false},  {ColLR, "", 'l', "R", true, false},
         {ColTag, "B", 'c', "C", true, false}, {ColTag, "B", 'x', "", true, false},
         {ColDeg, "", '5', std::nullopt, false, false}, {ColDistance, "", '.', std::nullopt, false, false},
         {ColChord, "", ',', std::nullopt, false, false}, {ColRadius, "1", 8, std::nullopt, false, false},

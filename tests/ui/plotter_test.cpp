@@ -73,7 +73,7 @@ TEST_F(Window, TypingTheSquareDrawsItAndCtrlAGivesAcres)
     EXPECT_EQ(QApplication::focusWidget(), field(2, 1));
     type("n\t90\t\t\te\t100\r");
     type("s\t0\t\t\te\t100\r");
-    type("s\t90\t\t\tw\t100\r");
+    type("s\t90\t\t\tW\t100\r"); // a capital: a small "w" in E/W toggles
     EXPECT_EQ(cell(4, ColDistance), "100");
     EXPECT_TRUE(w->engine().mapComputed());
     EXPECT_TRUE(child<QLabel>("Autoscalebox")->text().startsWith("AutoScale = "));
