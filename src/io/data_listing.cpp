@@ -21,10 +21,11 @@ void tabAndPrint(std::vector<std::string> &lines, int column, const std::string 
 
 std::vector<std::string> cellsAtColumns(const std::array<std::string, 10> &cells)
 {
+    // Every cell is tabbed to, the empty ones too: a long cell that has passed an
+    // empty cell's column sends the rest of the row to a new line.
     std::vector<std::string> lines(1);
     for (size_t i = 0; i < cells.size(); ++i)
-        if (!cells[i].empty() || i == 0)
-            tabAndPrint(lines, kDataColumns[i], cells[i]);
+        tabAndPrint(lines, kDataColumns[i], cells[i]);
     return lines;
 }
 

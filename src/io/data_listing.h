@@ -4,7 +4,7 @@
 // (NS at 1, Deg 5, Min 10, Sec 15, EW 20, Distance 23, Chord 35, Radius 47,
 // L-R 59, Tag 64; 1-based). A cell is reached by tabbing to its column: when
 // the line has already passed that column (a long cell before it), the cell
-// goes to the same column of a new line.
+// goes to the same column of a new line. Empty cells are tabbed to as well.
 
 #include <array>
 #include <string>

@@ -51,6 +51,14 @@ TEST(DataListing, RowsTabToTheColumnsAndWrapWhenACellIsTooLong)
               std::vector<std::string>{"N   45   30   15   E  100.25      141.42      100         R    B"});
     EXPECT_EQ(dataRowLines(table, 1),
               (std::vector<std::string>{"                      12345678901234", "                                  7"}));
+    // An empty cell is tabbed to as well: a cell passing the empty cell's column sends the rest to a new line.
+    const struct { test::Row row; std::vector<std::string> lines; } cases[] = {
+        {{"N", "", "", "97849.15", "", "90824.95", "", "", "", ""},
+         {"N             97849.15", "                      90824.95"}},
+        {{"", "", "", "", "", "1234567890123", "", "257", "L", ""},
+         {"                      1234567890123", "                                              257         L"}}};
+    for (const auto &c : cases)
+        EXPECT_EQ(dataRowLines(test::makeTable({c.row}), 0), c.lines) << c.row[5];
 }
 
 TEST(DataListing, HeadingRowsDescriptionAndEnd)
