@@ -96,8 +96,10 @@ std::vector<std::string> dataListingLines(const CourseTable &table, const std::s
     }
     lines.emplace_back();
     lines.push_back(dataHeadingLine());
-    const int last = std::min<int>(table.highest, CourseTable::kRows);
-    for (int row = 0; row < last; ++row) {
+    // Up to and including row `highest`: the grid raises it to the last row that
+    // got the focus, which may hold a course the map already shows.
+    const int last = std::min<int>(table.highest, CourseTable::kRows - 1);
+    for (int row = 0; row <= last; ++row) {
         bool used = false;
         for (int column = 1; column <= CourseTable::kColumns && !used; ++column)
             used = !table.at(row, column).isEmpty();

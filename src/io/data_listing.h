@@ -27,8 +27,8 @@ std::vector<std::string> dataRowLines(const CourseTable &table, int row);
 
 /// The whole listing: two empty lines, the property description wrapped by
 /// words to @p lineChars characters (its own line breaks kept; a word longer
-/// than a line is cut), an empty line, the heading, the rows 0 to `highest` - 1
-/// that hold anything (empty rows are left out), and "end".
+/// than a line is cut), an empty line, the heading, the rows 0 to `highest`
+/// (at most 201) that hold anything (empty rows are left out), and "end".
 /// @param lineChars  characters a printed line holds; below 1 counts as 1
 std::vector<std::string> dataListingLines(const CourseTable &table, const std::string &description, int lineChars);
 

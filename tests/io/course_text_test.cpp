@@ -71,4 +71,10 @@ TEST(DataListing, HeadingRowsDescriptionAndEnd)
     EXPECT_EQ(dataListingLines(CourseTable{}, "Lot 7 of the Oak\r\nHill  tract", 10),
               (std::vector<std::string>{"", "", "Lot 7 of", "the Oak", "Hill tract", "", heading, "end"}));
     EXPECT_EQ(dataListingLines(CourseTable{}, "abcdefghijkl", 5)[2], "abcde");
+    // The highest used row itself is listed: a row typed after scrolling is the row the grid counts.
+    CourseTable scrolled;
+    scrolled.at(12, ColDistance) = Cell("40");
+    scrolled.highest = 12;
+    EXPECT_EQ(dataListingLines(scrolled, "", 75),
+              (std::vector<std::string>{"", "", "", heading, "                      40", "end"}));
 }
