@@ -85,9 +85,10 @@ CalcResult chordAngleTangent(float chord, float radius)
     const double h = chord / 2.0;
     const double d = fsqrt(static_cast<double>(radius) * radius - h * h);
     const double x = 90 - (180 / kPi) * std::atan(fdiv(d, h));
-    // x lies between 0 and 180 degrees, so the whole part is the floor.
-    const double degrees = std::floor(x);
-    const double minutes = std::floor((x - degrees) * 60);
+    // Whole parts truncate: for a chord tiny beside its radius the short pi leaves
+    // x a hair below 0, which must read 0 degrees, not -1 degree 59'.
+    const double degrees = std::trunc(x);
+    const double minutes = std::trunc((x - degrees) * 60);
     const double seconds = ((x - degrees) - minutes / 60) * 3600;
     CalcResult r;
     r.acresbox = "Angle (difference) = " + formatNumber(degrees, "0") + kDegreeSign + " " +

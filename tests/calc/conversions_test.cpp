@@ -147,7 +147,9 @@ TEST(CurveCalculator, ComputesTheResultLine)
         // asin(25 / 75.5) = 19.337123 deg = 19 deg 20' 13.64"
         {CC::Tangent, "50  75.50", "Angle (difference) = 19\u00B0 20' 13.64''", nullptr},
         // asin(1/2) is 30 deg, but the short pi leaves 29.99999993: 59' 60.00", kept as it falls
-        {CC::Tangent, "100 100", "Angle (difference) = 29\u00B0 59' 60.00''", nullptr}};
+        {CC::Tangent, "100 100", "Angle (difference) = 29\u00B0 59' 60.00''", nullptr},
+        // the short pi leaves x = -6.2e-9 for a tiny chord: its whole part is 0, not -1 (59' 60.00")
+        {CC::Tangent, "1 1e12", "Angle (difference) = 0\u00B0 0' 0.00''", nullptr}};
     for (const auto &c : cases) {
         const CalcResult r = runCurveCalculator(c.calculator, c.answer);
         EXPECT_EQ(r.acresbox, c.acresbox);
