@@ -112,8 +112,9 @@ std::vector<PlacedWord> wrapHeading(const Surface &surface, PageSize page, float
         if (!word.empty() && word.back() == '\r')
             word.pop_back();
         const float width = surface.textWidth(word);
-        // A word wider than the line still goes on a line of its own.
-        if (x > 0.0f && x + width > limit) {
+        // Tested before every word, the first one too: a first word wider than
+        // the line is printed one line down and leaves the first line empty.
+        if (x + width > limit) {
             x = 0.0f;
             y += lineHeight;
         }

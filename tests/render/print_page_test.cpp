@@ -71,6 +71,13 @@ TEST(PrintPage, HeadingWrapsWordByWordAtPageWidthLess2400)
     EXPECT_EQ(odd[1].text, " ");
     EXPECT_FLOAT_EQ(odd[2].at.x, 360.0f + 240.0f + 120.0f);
     EXPECT_EQ(odd[3].at, (PointF{360.0f, 292.5f}));
+
+    // The test is made before every word, the first included: a first word
+    // wider than the line (77 letters, 9240 twips) leaves the first line empty.
+    const std::vector<PlacedWord> wide = wrapHeading(s, kLetterPage, 1080.0f, std::string(77, 'x') + " b");
+    ASSERT_EQ(wide.size(), 2u);
+    EXPECT_EQ(wide[0].at, (PointF{360.0f, 1080.0f + 292.5f}));
+    EXPECT_EQ(wide[1].at, (PointF{360.0f, 1080.0f + 585.0f}));
 }
 
 TEST(PrintPage, LayoutPutsTheMapBelowHeadingAndCaption)
