@@ -6,7 +6,7 @@ set -euo pipefail
 PACKAGES=(
   build-essential cmake pkg-config
   qt6-base-dev qt6-svg-dev libgl-dev libfontconfig-dev
-  libgtest-dev libgmock-dev libbenchmark-dev libinih-dev libcli11-dev
+  libgtest-dev libgmock-dev libbenchmark-dev libcli11-dev
   fonts-dejavu-core fonts-liberation2
   xvfb xauth xdotool imagemagick poppler-utils
   at-spi2-core python3-pyatspi dbus

@@ -1,10 +1,7 @@
 #include "settings_file.h"
 
-#include <ini.h>
-
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <limits>
 #include <map>
 #include <string_view>
@@ -38,32 +35,45 @@ std::string profileKey(std::string_view section, std::string_view key)
     return k;
 }
 
-int keepFirst(void *user, const char *section, const char *name, const char *value)
+// Blanks and TABs at both ends, as the profile call trims keys and values.
+std::string_view trimSpace(std::string_view t)
 {
-    if (name)
-        static_cast<Profile *>(user)->emplace(profileKey(section, name), value ? value : "");
-    return 1;
+    const auto first = t.find_first_not_of(" \t");
+    if (first == std::string_view::npos)
+        return {};
+    return t.substr(first, t.find_last_not_of(" \t") - first + 1);
 }
 
-// Hands the parser the text line by line exactly as it reads a file (the C
-// library's line reader): at most num - 1 bytes, up to and with a line feed,
-// NUL bytes passed on as they are.
-struct TextStream {
-    std::string_view rest;
-};
-
-char *nextLine(char *str, int num, void *stream)
+// The profile format: "[section]" lines and "key=value" lines, the value all
+// the text after the first "=" (a ";" in it is part of the value, an indented
+// line is a key like any other). Lines end at LF (a CR before it is dropped);
+// a NUL ends the line it is in; lines before the first section, and lines
+// that are neither, are passed over.
+Profile parseProfile(std::string_view text)
 {
-    auto &text = static_cast<TextStream *>(stream)->rest;
-    if (text.empty() || num < 2)
-        return nullptr;
-    std::size_t n = std::min(text.size(), std::size_t(num - 1));
-    if (const auto lf = text.substr(0, n).find('\n'); lf != std::string_view::npos)
-        n = lf + 1;
-    std::memcpy(str, text.data(), n);
-    str[n] = '\0';
-    text.remove_prefix(n);
-    return str;
+    Profile profile;
+    if (text.substr(0, 3) == "\xEF\xBB\xBF")
+        text.remove_prefix(3); // a byte-order mark some editors put first
+    std::string section;
+    bool inSection = false;
+    while (!text.empty()) {
+        const auto lf = text.find('\n');
+        std::string_view line = text.substr(0, lf);
+        text.remove_prefix(lf == std::string_view::npos ? text.size() : lf + 1);
+        line = line.substr(0, line.find('\0'));
+        line = trimSpace(line.substr(0, line.find_last_not_of('\r') + 1));
+        if (line.empty())
+            continue;
+        if (line.front() == '[') {
+            const auto close = line.find(']');
+            section = std::string(trimSpace(line.substr(1, close == std::string_view::npos ? close : close - 1)));
+            inSection = true;
+        } else if (const auto eq = line.find('='); eq != std::string_view::npos && inSection) {
+            profile.emplace(profileKey(section, trimSpace(line.substr(0, eq))),
+                            std::string(trimSpace(line.substr(eq + 1))));
+        }
+    }
+    return profile;
 }
 
 std::string firstValue(const Profile &profile, const char *section, const char *key, const char *fallback)
@@ -109,9 +119,7 @@ SettingsValues readSettings(const std::string &iniPath)
 SettingsValues readSettingsText(std::string_view text)
 {
     SettingsValues s;
-    Profile ini;
-    TextStream stream{text};
-    ini_parse_stream(nextLine, &stream, keepFirst, &ini); // a line it cannot parse is passed over
+    const Profile ini = parseProfile(text);
     std::string scales = firstValue(ini, "Setting", "Scales", "50;100;200;400;800;1500;2000;3000;4000");
     if (!scales.empty() && scales.back() == '\0')
         scales.pop_back();

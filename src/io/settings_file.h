@@ -4,9 +4,7 @@
 // and keys are found whatever their case, a value is the whole text after "="
 // with blanks at both ends removed ("50;100;200" is one value), and a missing
 // file or key gives the key's default. Numbers follow the leading-number rule.
-//
-// Exception to the whole-value rule, from the INI parser used: a ";" that
-// follows a blank starts a comment ("50 ;100" reads "50").
+// A ";" inside a value belongs to it ("50 ;100" reads "50 ;100").
 
 #include <array>
 #include <cstdint>

@@ -55,9 +55,11 @@ TEST_F(Settings, TextAndFileReadTheSame)
         {"[Setting]\r\nScales=10;20\r\n", "10;20"},
         {std::string("[Setting]\nScales=30\0;40\nScaleMetric=9\n", 31), "30"}, // NUL ends the line's value only
         {std::string("[Set\0ting]\nScales=1\n", 20), "50;100;200;400;800;1500;2000;3000;4000"},
-        {"\xEF\xBB\xBF[setting]\nscales = 60 ;70\n", "60"}, // byte-order mark; ";" after a blank starts a comment
+        {"\xEF\xBB\xBF[setting]\nscales = 60 ;70\n", "60 ;70"}, // byte-order mark; the value is all after "="
+        {"[Setting]\nScales=  ;;5\n", ";;5"},
         {"[Setting]\nScales=80\nScales=90\n", "80"},
-        {"[Setting]\nScales=1\n  continued\n", "1"}, // a continuation line joins with a line break
+        {"[Setting]\nScales=1\n  continued\n", "1"}, // a line without "=" is no key
+        {"[Setting]\nScaleMetric=1\n  Scales = 70\n", "70"}, // an indented key is a key like any other
         {"no section\nScales=5\n[Setting]\rScales=6\r", "50;100;200;400;800;1500;2000;3000;4000"},
         {"[Setting]\nScales=\n  60\n", ""}, // the first value counts, even an empty one
         {longScales, std::nullopt}};
