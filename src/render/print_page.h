@@ -89,7 +89,8 @@ struct MapPageLayout {
 /// The heading's words placed from @p top: split at every single space (two
 /// spaces give an empty word), "\n" starting a new line; a word starts a new
 /// line when x plus the word's width would pass the page width less 2400
-/// twips (even at a line's start, so a too-wide first word starts one line down). Measured in @p surface's current font.
+/// twips, even at a line's start (a too-wide first word starts one line down).
+/// Measured in @p surface's current font.
 std::vector<PlacedWord> wrapHeading(const Surface &surface, PageSize page, float top, const std::string &heading);
 
 /// Lays the page out. Measures with @p surface's fonts: it sets them and puts

@@ -30,6 +30,25 @@ QColor rgb(uint32_t c) { return QColor((c >> 16) & 0xFF, (c >> 8) & 0xFF, c & 0x
 
 } // namespace
 
+bool windowShortcut(const QKeyEvent &k)
+{
+    if (k.modifiers() == Qt::ShiftModifier)
+        return k.key() == Qt::Key_Delete;
+    if (k.modifiers() != Qt::ControlModifier)
+        return false;
+    switch (k.key()) {
+    case Qt::Key_A:
+    case Qt::Key_Z:
+    case Qt::Key_X:
+    case Qt::Key_C:
+    case Qt::Key_V:
+    case Qt::Key_Y:
+        return true;
+    default:
+        return false;
+    }
+}
+
 EntryGrid::EntryGrid(CourseTable &table, Dialogs &dialogs, std::function<void()> mindraw, QWidget *parent)
     : QGroupBox("Enter Metes and Bounds here", parent), m_rules(table, dialogs, std::move(mindraw))
 {
@@ -252,13 +271,7 @@ bool EntryGrid::eventFilter(QObject *watched, QEvent *event)
         // The window's File, Edit and Map shortcuts win over the field's own
         // (Ctrl+A calculates acres, it never selects text; Ctrl+Y copies the
         // data, it never redoes).
-        auto *k = static_cast<QKeyEvent *>(event);
-        const auto combo = k->keyCombination();
-        const bool ours = (k->modifiers() == Qt::ControlModifier &&
-                           (combo.key() == Qt::Key_A || combo.key() == Qt::Key_Z || combo.key() == Qt::Key_X ||
-                            combo.key() == Qt::Key_C || combo.key() == Qt::Key_V || combo.key() == Qt::Key_Y)) ||
-                          (k->modifiers() == Qt::ShiftModifier && combo.key() == Qt::Key_Delete);
-        if (ours) {
+        if (windowShortcut(*static_cast<QKeyEvent *>(event))) {
             event->ignore();
             return true;
         }

@@ -10,12 +10,20 @@
 
 #include "grid_rules.h"
 
+class QKeyEvent;
 class QLineEdit;
 class QLabel;
 class QMenu;
 class QScrollBar;
 
 namespace quilmar {
+
+/// The window's shortcuts that a text box (a grid field, the scale box, the
+/// heading) would otherwise keep for itself: Ctrl+A, Z, X, C, V, Y and
+/// Shift+Del. The menu's command runs instead (Ctrl+A calculates acres, Ctrl+Y
+/// copies the data, Shift+Del clears the current row; the Edit keys reach the
+/// box through the Edit menu).
+bool windowShortcut(const QKeyEvent &k);
 
 class EntryGrid : public QGroupBox {
     Q_OBJECT

@@ -570,33 +570,6 @@ void Plotter::closeEvent(QCloseEvent *event)
         event->ignore();
 }
 
-namespace {
-
-// The window's shortcuts that a text box would otherwise keep for itself: the
-// menu's command runs instead (Ctrl+Y copies the data, it never redoes; Shift+Del
-// clears the current row, it never cuts; the Edit keys reach the box through
-// the Edit menu all the same).
-bool windowShortcut(const QKeyEvent &k)
-{
-    if (k.modifiers() == Qt::ShiftModifier)
-        return k.key() == Qt::Key_Delete;
-    if (k.modifiers() != Qt::ControlModifier)
-        return false;
-    switch (k.key()) {
-    case Qt::Key_A:
-    case Qt::Key_Z:
-    case Qt::Key_X:
-    case Qt::Key_C:
-    case Qt::Key_V:
-    case Qt::Key_Y:
-        return true;
-    default:
-        return false;
-    }
-}
-
-} // namespace
-
 bool Plotter::eventFilter(QObject *watched, QEvent *event)
 {
     // Ctrl+A calculates acres everywhere in the window; it never selects text.
